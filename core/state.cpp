@@ -1,0 +1,7 @@
+#include "core/state.h"
+
+namespace veraqua {
+
+ApplicationState State;
+
+}  // namespace veraqua
