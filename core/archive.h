@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fmt/format.h>
-
 #include <array>
 #include <bit>
 #include <cmath>
@@ -12,12 +10,14 @@
 #include <string_view>
 #include <type_traits>
 
+#include <fmt/format.h>
+
 #include "core/failure.h"
 #include "core/text.h"
 
-/// The three archives over which every record's layout is written once: one function `Layout(archive, record)` lists the
-/// members in file order, and reading, writing and sizing all run that list. Integers are little-endian, floats IEEE 754
-/// singles, text single-byte.
+/// The three archives over which every record's layout is written once: one function `Layout(archive, record)` lists
+/// the members in file order, and reading, writing and sizing all run that list. Integers are little-endian, floats
+/// IEEE 754 singles, text single-byte.
 namespace veraqua {
 
 template <class T>
@@ -41,8 +41,8 @@ class Reader {
     /// asked for.
     void Expect(std::size_t count) const {
         if (count > bytes_.size() - position_)
-            throw RunTimeFailure(fmt::format("{}: {} bytes, but its counts ask for {}.", fileName_, bytes_.size(),
-                                             position_ + count));
+            throw RunTimeFailure(
+                fmt::format("{}: {} bytes, but its counts ask for {}.", fileName_, bytes_.size(), position_ + count));
     }
 
     [[noreturn]] void Refuse(std::string_view what) const {

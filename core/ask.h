@@ -17,8 +17,8 @@ constexpr std::string_view ProgramTitle = "Veraqua";
 /// What came of a request to the weather network.
 struct HttpReply {
     bool Succeeded = false;
-    int Code = 0;          ///< HTTP status, or the transport's error number
-    std::string Text;      ///< reason, fit for the user, where it failed
+    int Code = 0;      ///< HTTP status, or the transport's error number
+    std::string Text;  ///< reason, fit for the user, where it failed
     std::string Body;
 };
 
@@ -50,8 +50,8 @@ class Ask {
     [[noreturn]] virtual void EndProgram() = 0;
 };
 
-/// Reads a date as typed, without blanks around it. An accepted `text` becomes the long date text and its Julian Value is
-/// returned; a refused one stays, the user is told why (title "Date input error"), and the result is 0.
+/// Reads a date as typed, without blanks around it. An accepted `text` becomes the long date text and its Julian Value
+/// is returned; a refused one stays, the user is told why (title "Date input error"), and the result is 0.
 JulianValue ValidateDate(Ask& ask, std::string& text);
 
 }  // namespace veraqua

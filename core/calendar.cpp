@@ -1,8 +1,8 @@
 #include "core/calendar.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
+
+#include <fmt/format.h>
 
 namespace veraqua {
 

@@ -12,6 +12,9 @@ namespace veraqua {
 /// days differ by 1. 0 means no date.
 using JulianValue = std::int32_t;
 
+/// No typed date comes near this, and day arithmetic up to it can't overflow: a later day in a file is damage.
+constexpr JulianValue LatestPossibleDay = 400'000'000;
+
 struct Date {
     int Month = 0;
     int Day = 0;
@@ -29,7 +32,9 @@ struct DayInYear {
 
 namespace calendar_detail {
 
-constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b != 0 && (a < 0) != (b < 0)); }
+constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
+    return a / b - (a % b != 0 && (a < 0) != (b < 0));
+}
 
 /// Whole days of `year` years of 365.25 days.
 constexpr std::int64_t DaysOfYears(std::int64_t year) { return FloorDivide(1461 * year, 4); }
@@ -114,8 +119,8 @@ struct TypedDate {
 };
 
 /// Reads a date as the user types it: month, day and year with any separators whose code is below "0". A character that
-/// is no digit counts as a digit 0; a fourth number overwrites the day; a year below 1900 is refused, so two digits are.
-/// `text` comes without blanks around it. `ask.h` has `ValidateDate`, which tells the user the reason.
+/// is no digit counts as a digit 0; a fourth number overwrites the day; a year below 1900 is refused, so two digits
+/// are. `text` comes without blanks around it. `ask.h` has `ValidateDate`, which tells the user the reason.
 TypedDate ReadTypedDate(std::string_view text);
 
 static_assert(JulianFromDate(1, 1, 1900) == 693902);

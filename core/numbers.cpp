@@ -1,11 +1,11 @@
 #include "core/numbers.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+
+#include <fmt/format.h>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -42,8 +42,8 @@ std::string RoundedDigits(const Decimal& decimal, int decimals) {
     if (kept < 0) return "0";
     std::string digits = decimal.Digits.substr(0, static_cast<std::size_t>(kept));
     digits.append(static_cast<std::size_t>(kept) - digits.size(), '0');
-    const bool up = static_cast<std::size_t>(kept) < decimal.Digits.size() &&
-                    decimal.Digits[static_cast<std::size_t>(kept)] >= '5';
+    const bool up =
+        static_cast<std::size_t>(kept) < decimal.Digits.size() && decimal.Digits[static_cast<std::size_t>(kept)] >= '5';
     if (up) {
         auto place = digits.rbegin();
         for (; place != digits.rend() && *place == '9'; ++place) *place = '0';
@@ -75,10 +75,17 @@ std::string MaskedDigits(double value, int significantDigits, std::string_view m
 
 }  // namespace
 
+bool FitsSingle(double value) { return std::isfinite(static_cast<float>(value)); }
+
+bool FitsInteger16(double value) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const double whole = RoundHalfEven(value);
+    return whole >= Limits::min() && whole <= Limits::max();
+}
+
 float ToSingle(double value, const char* quantity) {
-    const float single = static_cast<float>(value);
-    if (!std::isfinite(single)) throw RunTimeFailure(fmt::format("Overflow: {} is {}.", quantity, value));
-    return single;
+    if (!FitsSingle(value)) throw RunTimeFailure(fmt::format("Overflow: {} is {}.", quantity, value));
+    return static_cast<float>(value);
 }
 
 double RoundHalfEven(double value) {
@@ -87,12 +94,9 @@ double RoundHalfEven(double value) {
 }
 
 std::int16_t ToInteger16(double value, const char* quantity) {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const double whole = RoundHalfEven(value);
-    if (!(whole >= Limits::min() && whole <= Limits::max()))
-        throw RunTimeFailure(fmt::format("Overflow: {} is {}, outside {} to {}.", quantity, value, Limits::min(),
-                                         Limits::max()));
-    return static_cast<std::int16_t>(whole);
+    if (!FitsInteger16(value))
+        throw RunTimeFailure(fmt::format("Overflow: {} is {}, outside -32768 to 32767.", quantity, value));
+    return static_cast<std::int16_t>(RoundHalfEven(value));
 }
 
 double RoundedTo(double value, double perUnit) { return RoundHalfEven(value * perUnit) / perUnit; }

@@ -17,6 +17,10 @@ double RoundHalfEven(double value);
 /// Nearest signed 16-bit integer, halves to even. RunTimeFailure, naming `quantity`, if it doesn't fit or isn't finite.
 std::int16_t ToInteger16(double value, const char* quantity);
 
+/// Whether `value` is finite and within the range of a single, or after rounding within a signed 16-bit integer.
+bool FitsSingle(double value);
+bool FitsInteger16(double value);
+
 /// `value` in hundredths (`perUnit` 100), tenths (10) and so on: the nearest, halves to even, as a plain number again.
 double RoundedTo(double value, double perUnit);
 

@@ -40,10 +40,10 @@ template <class Archive, class Row>
 constexpr void Layout(Archive& archive, Row& row)
     requires std::same_as<std::remove_const_t<Row>, StatRecord>
 {
-    archive(row.FieldId, row.CropName);                     // byte 0
-    archive(row.LastDay, row.Depletion, row.MadNow);        // 23
-    archive(row.NextIrrDay, row.NextCutDay);                // 31
-    archive(row.NextIrrAmount);                             // 39
+    archive(row.FieldId, row.CropName);               // byte 0
+    archive(row.LastDay, row.Depletion, row.MadNow);  // 23
+    archive(row.NextIrrDay, row.NextCutDay);          // 31
+    archive(row.NextIrrAmount);                       // 39
 }
 static_assert(StoredSize<StatRecord>() == 41);
 
@@ -62,28 +62,28 @@ using LayerBounds = std::array<float, 6>;
 struct HeaderCommon {
     FixedText<10> FieldId;
     FixedText<13> CropName;
-    FixedText<2> StationCode;        ///< of the weather station, such as "06"
-    std::int16_t CapacityTop = 0;    ///< upper index of the Capacity array
-    std::int16_t ContentTop = 0;     ///< upper index of the Content array
-    JulianValue PlantDay = 0;        ///< planting or onset of growth: the day of row 0
-    float RootMax = 0;               ///< deepest root depth, m
-    float GddLower = 0;              ///< temperature thresholds of growing degree days, degrees C
+    FixedText<2> StationCode;      ///< of the weather station, such as "06"
+    std::int16_t CapacityTop = 0;  ///< upper index of the Capacity array
+    std::int16_t ContentTop = 0;   ///< upper index of the Content array
+    JulianValue PlantDay = 0;      ///< planting or onset of growth: the day of row 0
+    float RootMax = 0;             ///< deepest root depth, m
+    float GddLower = 0;            ///< temperature thresholds of growing degree days, degrees C
     float GddUpper = 0;
-    std::int16_t SeasonDays = 0;     ///< longest season, days after planting
-    std::int16_t MAD = 0;            ///< management allowed depletion, percent
-    float IrrEff = 0;                ///< irrigation efficiency, fraction
-    float CapacityInterval = 0;      ///< thickness of a Capacity zone, m; 0 with variable layers
-    float ContentInterval = 0;       ///< thickness of a Content zone, m; 0 with variable layers
+    std::int16_t SeasonDays = 0;  ///< longest season, days after planting
+    std::int16_t MAD = 0;         ///< management allowed depletion, percent
+    float IrrEff = 0;             ///< irrigation efficiency, fraction
+    float CapacityInterval = 0;   ///< thickness of a Capacity zone, m; 0 with variable layers
+    float ContentInterval = 0;    ///< thickness of a Content zone, m; 0 with variable layers
 
     bool operator==(const HeaderCommon&) const = default;
 };
 
 /// Header of an ordinary crop's field file.
 struct FieldHeader : HeaderCommon {
-    float RootStart = 0;                ///< root depth at planting, m
-    std::int16_t GddHarvest = 0;        ///< degree days at which the roots are full and the season may end
-    float KcSpan = 0;                   ///< degree-day span of the crop coefficient curve
-    std::array<float, 6> KcSine{};      ///< its sine coefficients
+    float RootStart = 0;            ///< root depth at planting, m
+    std::int16_t GddHarvest = 0;    ///< degree days at which the roots are full and the season may end
+    float KcSpan = 0;               ///< degree-day span of the crop coefficient curve
+    std::array<float, 6> KcSine{};  ///< its sine coefficients
 
     bool operator==(const FieldHeader&) const = default;
 };
@@ -92,24 +92,24 @@ template <class Archive, class Header>
 constexpr void Layout(Archive& archive, Header& header)
     requires std::same_as<std::remove_const_t<Header>, FieldHeader>
 {
-    archive(header.FieldId, header.CropName, header.StationCode);       // byte 0
-    archive(header.CapacityTop, header.ContentTop, header.PlantDay);    // 25
-    archive(header.RootStart, header.RootMax);                          // 33
-    archive(header.GddLower, header.GddUpper);                          // 41
-    archive(header.GddHarvest, header.SeasonDays);                      // 49
-    archive(header.KcSpan, header.KcSine);                              // 53
-    archive(header.MAD, header.IrrEff);                                 // 81
-    archive(header.CapacityInterval, header.ContentInterval);           // 87
+    archive(header.FieldId, header.CropName, header.StationCode);     // byte 0
+    archive(header.CapacityTop, header.ContentTop, header.PlantDay);  // 25
+    archive(header.RootStart, header.RootMax);                        // 33
+    archive(header.GddLower, header.GddUpper);                        // 41
+    archive(header.GddHarvest, header.SeasonDays);                    // 49
+    archive(header.KcSpan, header.KcSine);                            // 53
+    archive(header.MAD, header.IrrEff);                               // 81
+    archive(header.CapacityInterval, header.ContentInterval);         // 87
 }
 static_assert(StoredSize<FieldHeader>() == 95);
 
 /// Header of a hay field's file.
 struct HayHeader : HeaderCommon {
-    JulianValue NextCutDay = 0;        ///< predicted next cutting; 0: none yet
-    std::int16_t GddCut = 0;           ///< degree days from one cutting to the next
-    std::int16_t DryDays = 0;          ///< days after an irrigation until the field is dry enough to cut
-    std::array<float, 13> Curve{};     ///< constants of the hay curves
-    std::int16_t MADCritical = 0;      ///< depletion above which the crop can't wait for its cutting, percent
+    JulianValue NextCutDay = 0;     ///< predicted next cutting; 0: none yet
+    std::int16_t GddCut = 0;        ///< degree days from one cutting to the next
+    std::int16_t DryDays = 0;       ///< days after an irrigation until the field is dry enough to cut
+    std::array<float, 13> Curve{};  ///< constants of the hay curves
+    std::int16_t MADCritical = 0;   ///< depletion above which the crop can't wait for its cutting, percent
 
     bool operator==(const HayHeader&) const = default;
 };
@@ -118,24 +118,24 @@ template <class Archive, class Header>
 constexpr void Layout(Archive& archive, Header& header)
     requires std::same_as<std::remove_const_t<Header>, HayHeader>
 {
-    archive(header.FieldId, header.CropName, header.StationCode);       // byte 0
-    archive(header.CapacityTop, header.ContentTop);                     // 25
-    archive(header.NextCutDay, header.PlantDay);                        // 29
-    archive(header.RootMax, header.GddLower, header.GddUpper);          // 37
-    archive(header.GddCut, header.SeasonDays, header.DryDays);          // 49
-    archive(header.Curve);                                              // 55
-    archive(header.MAD, header.MADCritical, header.IrrEff);             // 107
-    archive(header.CapacityInterval, header.ContentInterval);           // 115
+    archive(header.FieldId, header.CropName, header.StationCode);  // byte 0
+    archive(header.CapacityTop, header.ContentTop);                // 25
+    archive(header.NextCutDay, header.PlantDay);                   // 29
+    archive(header.RootMax, header.GddLower, header.GddUpper);     // 37
+    archive(header.GddCut, header.SeasonDays, header.DryDays);     // 49
+    archive(header.Curve);                                         // 55
+    archive(header.MAD, header.MADCritical, header.IrrEff);        // 107
+    archive(header.CapacityInterval, header.ContentInterval);      // 115
 }
 static_assert(StoredSize<HayHeader>() == 123);
 
 /// The state of a field at the end of one day.
 struct DayRecord {
-    float Available = 0;                 ///< water in the root zone, mm
-    float GddSum = 0;                    ///< degree-C days since planting; on hay since the last cutting
-    float RootDepthOrKc = 0;             ///< root depth, m; on hay Kc, and `RootMax` in row 0
-    float EtrSum = 0;                    ///< reference evapotranspiration since planting, mm
-    std::int16_t DaysSinceWet = 0;       ///< days since 15 mm of water or more came; 4 in row 0
+    float Available = 0;            ///< water in the root zone, mm
+    float GddSum = 0;               ///< degree-C days since planting; on hay since the last cutting
+    float RootDepthOrKc = 0;        ///< root depth, m; on hay Kc, and `RootMax` in row 0
+    float EtrSum = 0;               ///< reference evapotranspiration since planting, mm
+    std::int16_t DaysSinceWet = 0;  ///< days since 15 mm of water or more came; 4 in row 0
 
     bool operator==(const DayRecord&) const = default;
 };
@@ -193,16 +193,16 @@ struct ProfileRecord {
 
 /// One day of weather.
 struct WeatherDay {
-    std::int16_t DayOfYear = 0;      ///< 1 to 366; 0: no such record
-    float TempMax = 0;               ///< degrees C; 9999 marks an imported day with a missing value
-    float TempMin = 0;               ///< degrees C
-    float HumidityMax = 0;           ///< relative humidity, percent
+    std::int16_t DayOfYear = 0;  ///< 1 to 366; 0: no such record
+    float TempMax = 0;           ///< degrees C; 9999 marks an imported day with a missing value
+    float TempMin = 0;           ///< degrees C
+    float HumidityMax = 0;       ///< relative humidity, percent
     float HumidityMin = 0;
-    float WindRun = 0;               ///< km per day
-    float DayNightRatio = 0;         ///< wind speed by day over wind speed by night
-    float SolarRadiation = 0;        ///< langleys per day
-    float ReferenceET = 0;           ///< mm per day
-    FixedText<8> Source;             ///< "kesta", "default" or blank
+    float WindRun = 0;         ///< km per day
+    float DayNightRatio = 0;   ///< wind speed by day over wind speed by night
+    float SolarRadiation = 0;  ///< langleys per day
+    float ReferenceET = 0;     ///< mm per day
+    FixedText<8> Source;       ///< "kesta", "default" or blank
 
     bool operator==(const WeatherDay&) const = default;
 };
@@ -214,10 +214,10 @@ template <class Archive, class Day>
 constexpr void Layout(Archive& archive, Day& day)
     requires std::same_as<std::remove_const_t<Day>, WeatherDay>
 {
-    archive(day.DayOfYear);                                                          // byte 0
-    archive(day.TempMax, day.TempMin, day.HumidityMax, day.HumidityMin);             // 2
-    archive(day.WindRun, day.DayNightRatio, day.SolarRadiation, day.ReferenceET);    // 18
-    archive(day.Source);                                                             // 34
+    archive(day.DayOfYear);                                                        // byte 0
+    archive(day.TempMax, day.TempMin, day.HumidityMax, day.HumidityMin);           // 2
+    archive(day.WindRun, day.DayNightRatio, day.SolarRadiation, day.ReferenceET);  // 18
+    archive(day.Source);                                                           // 34
 }
 static_assert(StoredSize<WeatherDay>() == 42);
 

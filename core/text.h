@@ -26,7 +26,6 @@ class FixedText {
   public:
     constexpr FixedText() { bytes_.fill(' '); }
 
-
     FixedText& operator=(std::string_view utf8) {
         std::string bytes = Latin1FromUtf8(utf8).value_or(std::string(utf8.size(), '?'));
         bytes.resize(Width, ' ');

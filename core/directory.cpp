@@ -1,0 +1,167 @@
+#include "core/directory.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "core/files.h"
+#include "core/numbers.h"
+#include "core/records.h"
+#include "core/state.h"
+#include "core/text_items.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr std::string_view StatFile = "stat.dat";
+constexpr std::string_view UpdatesFile = "updates.dat";
+constexpr std::string_view DefaultWeatherFile = "weathdef.dat";
+
+constexpr std::size_t StatWidth = StoredSize<StatRecord>();
+constexpr std::size_t UpdatesWidth = sizeof(JulianValue);
+
+void CheckDay(JulianValue day, std::string_view file, int row) {
+    if (day < 0 || day > LatestPossibleDay)
+        throw RunTimeFailure(fmt::format("{}: row {} has the impossible day number {}.", file, row, day));
+}
+
+void ReadStat(Reader& reader, int rows) {
+    for (int row = 1; row <= rows; ++row) {
+        StatRecord& record = State.Stat[row];
+        Layout(reader, record);
+        for (const JulianValue day : {record.LastDay, record.NextIrrDay, record.NextCutDay})
+            CheckDay(day, StatFile, row);
+    }
+}
+
+void ReadUpdates(Reader& reader, int rows) {
+    for (int row = 1; row <= rows; ++row) {
+        reader(State.Updates[row]);
+        CheckDay(State.Updates[row], UpdatesFile, row);
+    }
+}
+
+/// Puts `record` at `row` of a file of records of one width; a shorter file is filled up with zeros.
+void WriteRecord(std::string_view file, const std::string& record, int row) {
+    std::string contents = *files::Read(file);
+    const std::size_t offset = static_cast<std::size_t>(row - 1) * record.size();
+    if (contents.size() < offset + record.size()) contents.resize(offset + record.size(), '\0');
+    contents.replace(offset, record.size(), record);
+    files::Write(file, std::move(contents));
+}
+
+void LoadStationNames() {
+    State.DefaultStations.clear();
+    const auto bytes = files::Read(DefaultWeatherFile);
+    if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", DefaultWeatherFile));
+    TextItems items(*bytes, DefaultWeatherFile);
+    const int names = items.Integer16();
+    items.Integer16();
+    for (int i = 0; i < names; ++i) State.DefaultStations.push_back(items.Text());
+}
+
+}  // namespace
+
+std::string StationNameOf(std::string_view code) {
+    const auto number = static_cast<std::size_t>(WholeNumber(code).value_or(0));
+    return number >= 1 && number <= State.DefaultStations.size() ? State.DefaultStations[number - 1] : "UNKNOWN";
+}
+
+std::string FieldFileName(int row) { return fmt::format("field{}.dat", row); }
+
+std::vector<int> RowsInUse() {
+    std::vector<int> rows;
+    for (int row = 1; row <= MaxFields; ++row)
+        if (State.Stat[row].LastDay > 0) rows.push_back(row);
+    return rows;
+}
+
+int LowestFreeRow() {
+    for (int row = 1; row <= MaxFields; ++row)
+        if (State.Stat[row].LastDay == 0) return row;
+    return 0;
+}
+
+void LoadFieldDirectory() {
+    const auto stat = files::Read(StatFile);
+    if (!stat) throw RunTimeFailure(fmt::format("{}: the file is missing.", StatFile));
+    const std::size_t wholeRows = stat->size() / StatWidth;
+    if (wholeRows > MaxFields)
+        throw RunTimeFailure(fmt::format("{}: {} rows, but there are at most {}.", StatFile, wholeRows, MaxFields));
+    const int rows = static_cast<int>(wholeRows);
+
+    State.Stat = {};
+    State.Updates = {};
+    Reader statReader(*stat, StatFile);
+    ReadStat(statReader, rows);
+    if (const auto updates = files::Read(UpdatesFile)) {
+        Reader updatesReader(*updates, UpdatesFile);
+        updatesReader.Expect(wholeRows * UpdatesWidth);
+        ReadUpdates(updatesReader, rows);
+    } else if (files::MayWrite()) {
+        files::Write(UpdatesFile, BlankUpdatesFile(rows));
+    }
+}
+
+void SaveFieldRow(Ask& ask, int row) {
+    for (const auto& [file, text] : {std::pair{StatFile, "Need to create stat.dat - exiting system."},
+                                     std::pair{UpdatesFile, "Need to create updates.dat - exiting system."}}) {
+        if (!files::Exists(file)) {
+            ask.Tell(text);
+            ask.EndProgram();
+        }
+    }
+    std::string record;
+    Writer writer(record);
+    Layout(writer, State.Stat[row]);
+    WriteRecord(StatFile, record, row);
+
+    record.clear();
+    writer(State.Updates[row]);
+    WriteRecord(UpdatesFile, record, row);
+}
+
+void StartDirectory() {
+    State.Stat = {};
+    State.Updates = {};
+    State.FieldCount = 0;
+    State.LatestLastDay = 0;
+    State.CurrentField = 0;
+    if (!files::Exists(StatFile)) {
+        if (!files::MayWrite()) return;
+        files::ChangeSet firstStart;
+        files::Write(StatFile, BlankStatFile(MaxFields));
+        files::Write(UpdatesFile, BlankUpdatesFile(MaxFields));
+        firstStart.Commit();
+        return;
+    }
+    LoadFieldDirectory();
+    for (const int row : RowsInUse()) {
+        State.LatestLastDay = std::max(State.LatestLastDay, State.Stat[row].LastDay);
+        if (files::Exists(FieldFileName(row))) {
+            ++State.FieldCount;
+        } else {
+            State.Stat[row].LastDay = 0;
+            State.Updates[row] = 0;
+        }
+    }
+}
+
+void StartUp(const Ask& ask) {
+    State.IrrigationChanged = false;
+    State.RainChanged = false;
+    State.EnglishUnits = true;
+    State.WeatherNeedFrom = 0;
+    State.WeatherNeedTo = 0;
+    State.DisplayDays = 12;
+    State.TodayJulian = ask.Now();
+    StartDirectory();
+    LoadStationNames();
+}
+
+std::string BlankStatFile(int rows) { return std::string(static_cast<std::size_t>(rows) * StatWidth, '\0'); }
+
+std::string BlankUpdatesFile(int rows) { return std::string(static_cast<std::size_t>(rows) * UpdatesWidth, '\0'); }
+
+}  // namespace veraqua
