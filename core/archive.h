@@ -27,7 +27,9 @@ concept StoredScalar = std::same_as<T, std::int16_t> || std::same_as<T, std::int
 /// RunTimeFailure that names the file and the place.
 class Reader {
   public:
-    Reader(std::string_view bytes, std::string_view fileName) : bytes_(bytes), fileName_(fileName) {}
+    /// `bytes` stand in the file from `offset` on: messages count from the file's start.
+    Reader(std::string_view bytes, std::string_view fileName, std::size_t offset = 0)
+        : bytes_(bytes), fileName_(fileName), offset_(offset) {}
 
     template <class... Members>
     void operator()(Members&... members) {
@@ -46,7 +48,7 @@ class Reader {
     }
 
     [[noreturn]] void Refuse(std::string_view what) const {
-        throw RunTimeFailure(fmt::format("{}: {} at byte {}.", fileName_, what, position_));
+        throw RunTimeFailure(fmt::format("{}: {} at byte {}.", fileName_, what, offset_ + position_));
     }
 
   private:
@@ -85,6 +87,7 @@ class Reader {
 
     std::string_view bytes_;
     std::string_view fileName_;
+    std::size_t offset_;
     std::size_t position_ = 0;
 };
 

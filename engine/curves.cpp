@@ -1,0 +1,71 @@
+#include "engine/curves.h"
+
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "core/failure.h"
+#include "core/numbers.h"
+
+namespace veraqua {
+
+float DegreeDaysAbove(float tempMax, float tempMin, float threshold) {
+    constexpr double Pi = 3.1415925f;
+    const double mean = (static_cast<double>(tempMax) + tempMin) / 2;
+    if (threshold <= tempMin) return ToSingle(mean - threshold, "the day's degree days");
+    if (threshold >= tempMax) return 0;
+    const double amplitude = (static_cast<double>(tempMax) - tempMin) / 2;
+    const double t = (threshold - mean) / amplitude;
+    const double phi = std::asin(t);
+    return ToSingle(((Pi / 2 - phi) * (mean - threshold) + amplitude * std::cos(phi)) / Pi, "the day's degree days");
+}
+
+float DegreeDaysBetween(float tempMax, float tempMin, float upper, float lower) {
+    return ToSingle(
+        static_cast<double>(DegreeDaysAbove(tempMax, tempMin, lower)) - DegreeDaysAbove(tempMax, tempMin, upper),
+        "the day's degree days");
+}
+
+float KcCrop(const FieldHeader& field, float gddSum) {
+    const double x = ToSingle(gddSum * 3.1415927 / field.KcSpan, "Kc (by the span of the crop's curve)");
+    double sum = 0;
+    double multiple = 1;
+    for (const float coefficient : field.KcSine) {
+        sum += coefficient * std::sin(multiple * x);
+        ++multiple;
+    }
+    const float kc = ToSingle(sum, "Kc");
+    return kc < 0 ? 0 : kc;
+}
+
+float ClimateCurve(double a, double m, double x) {
+    if (a * x < 0) throw RunTimeFailure(fmt::format("The hay curve can't be taken at {} times {}.", a, x));
+    return ToSingle(std::pow(1 + std::pow(a * x, 1 / (1 - m)), -m), "the hay curve");
+}
+
+float KcHay(const HayHeader& hay, float humidityMin, float windRun, float gddSum) {
+    // The constants are numbered from 1 as in the crop table.
+    const auto curve = [&hay](std::size_t number) -> double { return hay.Curve[number - 1]; };
+    const double humid = ClimateCurve(curve(1), curve(2), humidityMin);
+    const double windy =
+        1 - static_cast<double>(ClimateCurve(curve(3), curve(4), static_cast<double>(windRun) * 1000 / 800));
+    const double dryOrHumidTop = (curve(8) - curve(9)) * humid + curve(9);
+    const double top = (curve(10) - dryOrHumidTop) * windy + dryOrHumidTop;
+    const double dryOrHumidLow = (curve(11) - curve(12)) * humid + curve(12);
+    const double low = (curve(13) - dryOrHumidLow) * windy + dryOrHumidLow;
+    const double growthRate = top * curve(6) + curve(5);
+    const std::int16_t end = ToInteger16(2.0 * hay.GddCut, "twice the degree days between cuttings");
+    if (gddSum >= end || gddSum <= 0) return 0;
+    const double towardsCut = gddSum <= hay.GddCut ? gddSum : end - gddSum;
+    const double grown = 1 - static_cast<double>(ClimateCurve(growthRate, curve(7), towardsCut * 1000 / hay.GddCut));
+    return ToSingle((top - low) * grown + low, "Kc");
+}
+
+float RootDepth(const FieldHeader& field, float gddSum, float kc, float kcAtHarvest) {
+    if (gddSum >= field.GddHarvest) return field.RootMax;
+    const double growth = static_cast<double>(field.RootMax) - field.RootStart;
+    return ToSingle(static_cast<double>(kc) / kcAtHarvest * growth + field.RootStart,
+                    "the root depth (by the Kc at harvest)");
+}
+
+}  // namespace veraqua

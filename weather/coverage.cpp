@@ -1,0 +1,50 @@
+#include "weather/coverage.h"
+
+#include <optional>
+
+#include "core/files.h"
+#include "core/state.h"
+#include "weather/default_weather.h"
+#include "weather/weather_file.h"
+
+namespace veraqua {
+
+namespace {
+
+/// Last day of weather in the first year from `startYear` to `thisYear` that isn't complete; the end of this year if
+/// all are.
+JulianValue LastDayWithoutHole(int startYear, int thisYear) {
+    std::optional<JulianValue> last;
+    for (int year = startYear; year <= thisYear; ++year) {
+        State.WeatherYearSuffix = YearSuffix(year);
+        const JulianValue inFile = LastWeatherJulian(State.StationCode, year);
+        if (!last && inFile < JulianFromDate(12, 31, year)) last = inFile > 0 ? inFile : JulianFromDate(1, 1, year) - 1;
+    }
+    return last.value_or(JulianFromDate(12, 31, thisYear));
+}
+
+}  // namespace
+
+Coverage FindCoverage(Ask& ask, int startYear) {
+    State.DownloadFailed = false;
+    if (!LoadWeatherCoefficients(ask, RegionOfStation(State.StationCode))) return Coverage::RegionMissing;
+
+    files::ChangeSet madeByLooking;
+    const JulianValue last = LastDayWithoutHole(startYear, YearOf(ask.Now()));
+    madeByLooking.Commit();
+
+    State.ReportCancelled = false;
+    const JulianValue yesterday = State.TodayJulian - 1;
+    if (last < 1) {
+        State.WeatherNeedFrom = JulianFromDate(1, 1, startYear);
+        State.WeatherNeedTo = yesterday;
+        return Coverage::WeatherNeeded;
+    }
+    State.WeatherLastJulian = last;
+    if (last >= yesterday) return Coverage::Current;
+    State.WeatherNeedFrom = last + 1;
+    State.WeatherNeedTo = yesterday;
+    return Coverage::WeatherNeeded;
+}
+
+}  // namespace veraqua
