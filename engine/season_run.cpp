@@ -54,6 +54,15 @@ FieldChanges ChangesOf(const FieldFile& file, Season& season) {
     return changes;
 }
 
+/// The season in memory. A fault of its arithmetic is told with the field's file.
+Season RunFile(const FieldFile& file, const SeasonStart& start, const SeasonWeather& weather, Ask& ask) {
+    try {
+        return RunSeason(file, start, weather, ask);
+    } catch (const RunTimeFailure& failure) {
+        throw RunTimeFailure(FieldFileName(State.CurrentField) + ": " + failure.what());
+    }
+}
+
 void StopRow(const Season& season, StatRecord& row) {
     row.LastDay = season.LastDay;
     row.Depletion = ToInteger16(season.End.Depletion, "the depletion");
@@ -105,7 +114,7 @@ RunOutcome UpdateField(Ask& ask) {
     const SeasonStart start{firstWanted - 1, resetDay > 0, State.TodayJulian, State.Stat[State.CurrentField]};
     const JulianValue startDay = AsOf(*file, start.Day).Day;
     const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
-    Season season = RunSeason(*file, start, weather, ask);
+    Season season = RunFile(*file, start, weather, ask);
     if (season.Ending == SeasonEnding::WeatherDamaged) return RunOutcome::WeatherDamaged;
     const bool stopped = season.Ending == SeasonEnding::StoppedByUser;
     if (stopped && !file->IsHay) ask.Tell("Writing updated Field History", "Veraqua Info");

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "catch_up/field_updates.h"
+#include "core/ask.h"
+#include "core/records.h"
+
+/// The commands that bring measured weather of the station in work up to date, from the network or from a text that is
+/// here already.
+namespace veraqua {
+
+/// The two ways of importing. They differ in their range and in some of their words.
+enum class WeatherCommand {
+    Append,     ///< from the day after the last stored one
+    Overwrite,  ///< from 1 January of this year
+};
+
+enum class CommandEnding {
+    Done,
+    StationMissing,  ///< no station is chosen: the user has been told, and is to choose one
+    Declined,        ///< the user answered a question with No
+    Failed,          ///< the user has been told; `DownloadFailed` is true
+};
+
+struct CommandReport {
+    CommandEnding Ending = CommandEnding::Done;
+    std::string Status;         ///< what was done, for the first status panel
+    std::string FieldsUpdated;  ///< text about the catch-up, where there was one
+    std::optional<StationCatchUp> CatchUp;
+    WeatherDay LastDay;  ///< the last day of the text, for display
+};
+
+/// Fetches the text of the station in work and the year of `WeatherYearSuffix`, keeps it under its remote name and as
+/// the year's text to import. `state` is told how it goes. False, with `DownloadFailed` set, after the user has been
+/// told why not.
+bool DownloadWeather(Ask& ask, const std::function<void(std::string_view)>& state);
+
+/// Sets the range that `command` is to bring in. False if the user declines to overwrite weather that is up to date.
+bool ChooseRange(Ask& ask, WeatherCommand command);
+
+/// Imports the range from the text that is here: tests for it, asks about days that it lacks, imports, and raises
+/// `WeatherLastJulian`.
+///   oneYear  the range lies in one year
+CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear);
+
+/// The whole menu command: range, download, import, and the catch-up of the station's fields.
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void(std::string_view)>& state);
+
+/// What the station chooser does with its own range once it has downloaded: no question about the range, no catch-up.
+CommandReport AppendForChooser(Ask& ask);
+
+}  // namespace veraqua

@@ -1,0 +1,182 @@
+#include "weather/import.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <fmt/format.h>
+
+#include "core/files.h"
+#include "core/numbers.h"
+#include "core/state.h"
+#include "weather/default_weather.h"
+#include "weather/network_text.h"
+#include "weather/reference_et.h"
+#include "weather/weather_file.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr std::string_view MeasuredSource = "kesta";
+
+/// The metric day of a line. A bad line bears its mark and keeps whatever else it says.
+WeatherDay DayOf(const NetworkLine& line) {
+    WeatherDay day;
+    day.DayOfYear = static_cast<std::int16_t>(line.DayOfYear);
+    day.TempMax = line.Bad ? MissingDayMark : line.TempMax;
+    day.TempMin = line.TempMin;
+    day.HumidityMax = line.HumidityMax;
+    day.HumidityMin = line.HumidityMin;
+    day.WindRun = ToSingle(line.Wind * KilometresPerDay * WindHeightFactor, "the wind run");
+    day.DayNightRatio = DefaultDayNightRatio(State.WeatherCoeff, line.DayOfYear);
+    day.SolarRadiation = ToSingle(line.Radiation * LangleysPerMegajoule, "the solar radiation");
+    day.Source = MeasuredSource;
+    day.ReferenceET = ReferenceEvapotranspiration(day);
+    return day;
+}
+
+class Importer {
+  public:
+    Importer(Ask& ask, const ImportWording& wording, bool oneYear)
+        : ask_(ask),
+          wording_(wording),
+          oneYear_(oneYear),
+          day_(State.WeatherNeedFrom),
+          place_(DayOfYearFromJulian(day_)),
+          file_(State.StationCode, place_.Year) {}
+
+    ImportOutcome Run() {
+        if (OpenText() && FindFirstLine()) {
+            outcome_.Imported = true;
+            while (PlaceLine() && NextDay() && NextLine()) {}
+        }
+        file_.Save();
+        return std::move(outcome_);
+    }
+
+  private:
+    bool OpenText() {
+        bytes_ = files::Read(NetworkTextName(place_.Year));
+        if (!bytes_) {
+            TellTextMissing(ask_, wording_, place_.Year);
+            return false;
+        }
+        text_ = std::make_unique<NetworkText>(*bytes_, place_.Year);
+        ended_ = false;
+        line_.reset();
+        return true;
+    }
+
+    /// Goes to the first line of the wanted day or later. The lines up to it must be of the year and the station.
+    bool FindFirstLine() {
+        const std::string year = fmt::format("{}", place_.Year);
+        const std::optional<std::int32_t> station = WholeNumber(State.StationCode);
+        while (const auto next = text_->Next()) {
+            if (next->Year != year && next->Year != YearSuffix(place_.Year)) return Refuse(wording_.WrongYear);
+            if (next->Station != station) return Refuse(wording_.WrongStation);
+            if (next->DayOfYear == 0) break;
+            line_ = next;
+            if (line_->DayOfYear >= place_.DayOfYear) return true;
+        }
+        ended_ = true;
+        if (!line_) TellDownloadFailed(ask_);
+        return line_.has_value();
+    }
+
+    bool Refuse(std::string_view why) {
+        ask_.Tell(why, "Download Error");
+        State.DownloadFailed = true;
+        return false;
+    }
+
+    /// Writes what the line at hand means for the wanted day. False if the import ends with it.
+    bool PlaceLine() {
+        const WeatherDay day = DayOfLine();
+        outcome_.LastDay = day;
+        if (line_->DayOfYear < place_.DayOfYear) {
+            // The text has ended before the wanted day: one default day stands in.
+            PutDefault();
+            return false;
+        }
+        if (line_->DayOfYear == place_.DayOfYear && line_->Bad) return false;
+        for (; place_.DayOfYear < line_->DayOfYear; ++place_.DayOfYear, ++day_) PutDefault();
+        file_.Put(place_.DayOfYear, day);
+        if (line_->WindMissing && !line_->Bad) outcome_.WindlessDays.push_back(day_);
+        return true;
+    }
+
+    WeatherDay DayOfLine() const {
+        try {
+            return DayOf(*line_);
+        } catch (const RunTimeFailure& failure) {
+            throw RunTimeFailure(fmt::format("{}: the line of day {}: {}", NetworkTextName(place_.Year),
+                                             line_->DayOfYear, failure.what()));
+        }
+    }
+
+    void PutDefault() { file_.Put(place_.DayOfYear, DefaultDay(State.WeatherCoeff, place_.DayOfYear)); }
+
+    /// Steps to the next day wanted, into the next year's files where it lies there. False past the range.
+    bool NextDay() {
+        ++day_;
+        ++place_.DayOfYear;
+        if (day_ > State.WeatherNeedTo) return false;
+        if (oneYear_ || place_.DayOfYear <= DaysInYear(place_.Year)) return true;
+        place_ = {1, place_.Year + 1};
+        file_.Save();
+        file_ = WeatherFile(State.StationCode, place_.Year);
+        if (OpenText()) return true;
+        outcome_.Imported = false;
+        return false;
+    }
+
+    /// Takes the next line; at the end of the text the last one stays. False if a text holds none at all.
+    bool NextLine() {
+        if (!ended_) {
+            const auto next = text_->Next();
+            ended_ = !next || next->DayOfYear == 0;
+            if (!ended_) line_ = next;
+        }
+        if (line_) return true;
+        TellDownloadFailed(ask_);
+        outcome_.Imported = false;
+        return false;
+    }
+
+    Ask& ask_;
+    const ImportWording& wording_;
+    bool oneYear_;
+    JulianValue day_;
+    DayInYear place_;
+    WeatherFile file_;
+    std::shared_ptr<const files::Bytes> bytes_;
+    std::unique_ptr<NetworkText> text_;
+    std::optional<NetworkLine> line_;
+    bool ended_ = false;
+    ImportOutcome outcome_;
+};
+
+}  // namespace
+
+std::string NetworkTextName(int year) { return "kesta." + YearSuffix(year); }
+
+void TellTextMissing(Ask& ask, const ImportWording& wording, int year) {
+    ask.Tell(fmt::format("Your KESTA data file for {}{}\nTry again or download Default Weather Data.", YearSuffix(year),
+                         wording.NotDownloaded),
+             wording.NotDownloadedTitle);
+    State.DownloadFailed = true;
+}
+
+void TellDownloadFailed(Ask& ask) {
+    ask.Tell("No weather data was saved, try loading default data", "DOWNLOAD FAILED");
+    State.DownloadFailed = true;
+}
+
+ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, bool oneYear) {
+    files::ChangeSet changes;
+    ImportOutcome outcome = Importer(ask, wording, oneYear).Run();
+    changes.Commit();
+    return outcome;
+}
+
+}  // namespace veraqua

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/ask.h"
+#include "core/records.h"
+
+/// The import of the network's text into the weather files of the station in work.
+namespace veraqua {
+
+/// "kesta.03": the name under which the text of a year is imported.
+std::string NetworkTextName(int year);
+
+/// The wording of the two commands that import: the one that overwrites puts exclamation marks where appending has
+/// none.
+struct ImportWording {
+    std::string_view WrongYear;
+    std::string_view WrongStation;
+    std::string_view NotDownloaded;  ///< follows the year in the message about a missing text
+    std::string_view NotDownloadedTitle;
+};
+
+struct ImportOutcome {
+    bool Imported = false;                  ///< false: refused or nothing usable; the user has been told
+    std::vector<JulianValue> WindlessDays;  ///< imported although their wind was not measured
+    WeatherDay LastDay;                     ///< the last line looked at
+};
+
+/// Tells that the text of `year` is missing and sets `DownloadFailed`.
+void TellTextMissing(Ask& ask, const ImportWording& wording, int year);
+
+/// Tells that nothing could be taken and sets `DownloadFailed`.
+void TellDownloadFailed(Ask& ask);
+
+/// Imports the days from `WeatherNeedFrom` to `WeatherNeedTo` from the text of their year. Gaps of the text become
+/// default days; a day whose line lacks a value ends the import when it is the day wanted. What was written by then
+/// stays.
+///   oneYear  the range lies in one year and the text of another is never opened
+ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, bool oneYear);
+
+}  // namespace veraqua

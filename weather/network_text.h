@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/records.h"
+
+/// The text that the weather network serves: a file per station and year, a line per day, fields separated by commas.
+namespace veraqua {
+
+/// Marks a missing measurement.
+constexpr float MissingMeasurement = 999;
+
+/// The wind is measured above the 2 m that the equation for reference ET is made for.
+constexpr double WindHeightFactor = 0.93;
+constexpr double KilometresPerDay = 86.4;       ///< in one metre per second
+constexpr double LangleysPerMegajoule = 23.89;  ///< per square metre
+
+/// One line, as it stands.
+struct NetworkLine {
+    std::string_view Year;  ///< column 1 without blanks, not yet compared with anything
+    int DayOfYear = 0;      ///< 0 if column 2 is no day of the year
+    std::optional<int> Station;
+    float TempMax = 0;  ///< degrees C
+    float TempMin = 0;
+    float HumidityMax = 0;  ///< percent
+    float HumidityMin = 0;
+    float Radiation = 0;  ///< MJ per square metre
+    float Wind = 0;       ///< m/s
+    bool Bad = false;     ///< a value that the day can't do without is missing
+    bool WindMissing =
+        false;  ///< the wind bears the mark of a missing measurement, which alone doesn't make a line bad
+};
+
+/// Reads the lines one after the other. Columns that are no number count as missing, and those beyond the known ones
+/// are ignored.
+class NetworkText {
+  public:
+    /// `bytes` must outlive it. Days of the year end with that of `year`.
+    NetworkText(std::string_view bytes, int year) : rest_(bytes), year_(year) {}
+
+    /// The next line that isn't empty; nothing at the end of the text.
+    std::optional<NetworkLine> Next();
+
+  private:
+    std::string_view rest_;
+    int year_;
+};
+
+/// Lines of the text that aren't empty.
+int CountLines(std::string_view bytes);
+
+/// `body` with each run of control characters as one CR LF: the form in which the downloaded text is kept.
+std::string WithPlainLineEnds(std::string_view body);
+
+}  // namespace veraqua
