@@ -10,14 +10,14 @@
 namespace veraqua {
 
 float DegreeDaysAbove(float tempMax, float tempMin, float threshold) {
-    constexpr double Pi = 3.1415925f;
+    constexpr double pi = 3.1415925F;
     const double mean = (static_cast<double>(tempMax) + tempMin) / 2;
     if (threshold <= tempMin) return ToSingle(mean - threshold, "the day's degree days");
     if (threshold >= tempMax) return 0;
     const double amplitude = (static_cast<double>(tempMax) - tempMin) / 2;
     const double t = (threshold - mean) / amplitude;
     const double phi = std::asin(t);
-    return ToSingle(((Pi / 2 - phi) * (mean - threshold) + amplitude * std::cos(phi)) / Pi, "the day's degree days");
+    return ToSingle(((pi / 2 - phi) * (mean - threshold) + amplitude * std::cos(phi)) / pi, "the day's degree days");
 }
 
 float DegreeDaysBetween(float tempMax, float tempMin, float upper, float lower) {

@@ -1,0 +1,217 @@
+#include "cli/app.h"
+
+#include <functional>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/commands.h"
+#include "core/state.h"
+
+namespace veraqua {
+
+namespace {
+
+/// The command that was typed, ready to run.
+using Command = std::function<int(Session&)>;
+
+/// Options and arguments of the commands, filled while the command line is read.
+struct Typed {
+    bool Sample = false;
+    bool Overwrite = false;
+    int Row = 0;
+    int Year = 0;
+    std::vector<int> Rows;
+    std::string OutFile;
+    std::string Station;
+    std::string From;
+    std::string To;
+    ImportOptions Import;
+    WeatherDay Day;
+};
+
+constexpr int FirstYear = 1900;
+constexpr int LastYear = 9999;
+
+class ProgramOptions {
+  public:
+    explicit ProgramOptions(Session& session)
+        : session_(session),
+          app_(
+              "Veraqua schedules irrigation: it keeps fields and their weather, and says when to water next, how much, and "
+              "when to cut hay.\nDates are typed as MM-DD-YYYY; ROW is a field's number in the directory.",
+              "veraqua-cli") {
+        app_.require_subcommand(1);
+        app_.set_version_flag("--version", "veraqua-cli " + State.VersionString);
+        AddGlobalOptions();
+        AddGeneralCommands();
+        AddFieldCommands();
+        AddWeatherCommands();
+        AddReportCommands();
+    }
+
+    CLI::App& App() { return app_; }
+    const Command& Chosen() const { return chosen_; }
+
+  private:
+    void AddGlobalOptions() {
+        GlobalOptions& options = session_.Options;
+        app_.add_option("--data", options.DataDirectory, "data directory (default: $XDG_DATA_HOME/veraqua)")
+            ->type_name("DIR");
+        app_.add_option("--today", options.Today, "date that counts as today (default: the clock's)")
+            ->type_name("MM-DD-YYYY");
+        app_.add_option("--units", options.Units, "units of input and text output: english or metric")
+            ->check(CLI::IsMember({"english", "metric"}))
+            ->type_name("UNITS")
+            ->capture_default_str();
+        app_.add_option("--answer", options.Answer, "answer to every question: yes or no")
+            ->check(CLI::IsMember({"yes", "no"}))
+            ->type_name("ANSWER")
+            ->capture_default_str();
+        app_.add_option("--base-url", options.BaseUrl,
+                        "where the weather network is (default: network.txt, else built in)")
+            ->type_name("URL");
+        app_.add_flag("--json", options.JsonWanted, "print one JSON document instead of text");
+    }
+
+    CLI::App* Add(CLI::App* parent, const std::string& name, const std::string& what, Command command) {
+        CLI::App* added = parent->add_subcommand(name, what);
+        added->callback([this, command = std::move(command)] { chosen_ = command; });
+        return added;
+    }
+
+    CLI::App* AddGroup(const std::string& name, const std::string& what) {
+        CLI::App* group = app_.add_subcommand(name, what);
+        group->require_subcommand(1);
+        return group;
+    }
+
+    void TakeRow(CLI::App* command) {
+        command->add_option("ROW", typed_.Row, "row of the field, from 1")->required()->type_name("");
+    }
+
+    void TakeStation(CLI::App* command) {
+        command->add_option("STATION", typed_.Station, "two-digit station code, such as 06")->required()->type_name("");
+    }
+
+    void TakeYear(CLI::App* command) {
+        command->add_option("YEAR", typed_.Year, "full year, such as 2026")
+            ->required()
+            ->check(CLI::Range(FirstYear, LastYear))
+            ->type_name("");
+    }
+
+    void TakeOutFile(CLI::App* command) {
+        command->add_option("-o,--output", typed_.OutFile, "file to write instead of printing")->type_name("FILE");
+    }
+
+    void AddGeneralCommands() {
+        Add(&app_, "init", "make a data directory with the crop table, the default weather and the manual",
+            [this](Session& session) { return RunInit(session, typed_.Sample); })
+            ->add_flag("--sample", typed_.Sample, "also make sample fields on measured weather");
+        Add(&app_, "crops", "list the crop table", &RunCrops);
+        Add(&app_, "stations", "list the weather stations", &RunStations);
+        Add(&app_, "fields", "list the fields and their predictions", &RunFields);
+    }
+
+    void AddFieldCommands() {
+        CLI::App* field = AddGroup("field", "work on fields");
+        Add(field, "update", "run the seasons of these fields, or of all",
+            [this](Session& session) { return RunFieldUpdate(session, typed_.Rows); })
+            ->add_option("ROW", typed_.Rows, "rows of the fields, from 1")
+            ->type_name("");
+        TakeRow(Add(field, "show", "show a field: header, soil, lists, totals",
+                    [this](Session& session) { return RunFieldShow(session, typed_.Row); }));
+        TakeRow(Add(field, "days", "list a field's days since planting",
+                    [this](Session& session) { return RunFieldDays(session, typed_.Row); }));
+    }
+
+    void AddWeatherCommands() {
+        CLI::App* weather = AddGroup("weather", "work on the stations' daily weather");
+        AddDefaultAndImport(weather);
+        CLI::App* fetch =
+            Add(weather, "fetch", "download a station's weather, import it and let its fields catch up",
+                [this](Session& session) { return RunWeatherFetch(session, typed_.Station, typed_.Overwrite); });
+        TakeStation(fetch);
+        fetch->add_flag("--overwrite", typed_.Overwrite, "take the whole year anew instead of appending");
+        CLI::App* check =
+            Add(weather, "check", "tell how far a station's weather reaches from a year on",
+                [this](Session& session) { return RunWeatherCheck(session, typed_.Station, typed_.Year); });
+        TakeStation(check);
+        TakeYear(check);
+        CLI::App* show = Add(weather, "show", "list the stored days of a year",
+                             [this](Session& session) { return RunWeatherShow(session, typed_.Station, typed_.Year); });
+        TakeStation(show);
+        TakeYear(show);
+        AddEto(weather);
+    }
+
+    void AddDefaultAndImport(CLI::App* weather) {
+        CLI::App* defaults = Add(
+            weather, "default", "write default weather for a range of days",
+            [this](Session& session) { return RunWeatherDefault(session, typed_.Station, typed_.From, typed_.To); });
+        TakeStation(defaults);
+        defaults->add_option("FROM", typed_.From, "first day")->required()->type_name("");
+        defaults->add_option("TO", typed_.To, "last day")->required()->type_name("");
+
+        ImportOptions& options = typed_.Import;
+        CLI::App* import = Add(weather, "import", "import a text of the weather network that is here already",
+                               [this](Session& session) { return RunWeatherImport(session, typed_.Import); });
+        import->add_option("STATION", options.Station, "two-digit station code, such as 06")->required()->type_name("");
+        import->add_option("FILE", options.File, "the text")->required()->type_name("");
+        CLI::Option* from =
+            import->add_option("--from", options.From, "first day (default: after the last stored one)");
+        CLI::Option* to = import->add_option("--to", options.To, "last day (default: yesterday)");
+        from->needs(to)->type_name("DATE");
+        to->needs(from)->type_name("DATE");
+    }
+
+    void AddEto(CLI::App* weather) {
+        WeatherDay& day = typed_.Day;
+        CLI::App* eto = Add(weather, "eto", "compute the reference evapotranspiration of one day",
+                            [this](Session& session) { return RunWeatherEto(session, typed_.Day); });
+        const auto take = [eto](const std::string& name, float& value, const std::string& what) {
+            eto->add_option(name, value, what)->required()->type_name("");
+        };
+        take("--tmax", day.TempMax, "maximum temperature, degrees C");
+        take("--tmin", day.TempMin, "minimum temperature, degrees C");
+        take("--rhmax", day.HumidityMax, "maximum relative humidity, percent");
+        take("--rhmin", day.HumidityMin, "minimum relative humidity, percent");
+        take("--wind", day.WindRun, "wind run, km per day");
+        take("--ratio", day.DayNightRatio, "wind by day over wind by night");
+        take("--solar", day.SolarRadiation, "solar radiation, langleys per day");
+    }
+
+    void AddReportCommands() {
+        TakeOutFile(Add(&app_, "schedule", "the irrigation schedule of all fields",
+                        [this](Session& session) { return RunSchedule(session, typed_.OutFile); }));
+        CLI::App* report = Add(&app_, "report", "the report of a field: description, totals, soil and a line a day",
+                               [this](Session& session) { return RunReport(session, typed_.Row, typed_.OutFile); });
+        TakeRow(report);
+        TakeOutFile(report);
+    }
+
+    Session& session_;
+    CLI::App app_;
+    Typed typed_;
+    Command chosen_;
+};
+
+}  // namespace
+
+int RunProgram(int argumentCount, const char* const* arguments) {
+    Session session;
+    ProgramOptions options(session);
+    try {
+        options.App().parse(argumentCount, arguments);
+    } catch (const CLI::ParseError& error) {
+        return options.App().exit(error) == 0 ? ExitDone : ExitUsage;
+    }
+    try {
+        return session.Prepare() ? options.Chosen()(session) : ExitRefused;
+    } catch (const RunTimeFailure& failure) {
+        session.Outside.Tell(failure.what(), ProgramTitle, Icon::Stop);
+        return ExitFailure;
+    }
+}
+
+}  // namespace veraqua

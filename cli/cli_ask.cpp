@@ -1,0 +1,80 @@
+#include "cli/cli_ask.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+#include <fmt/format.h>
+
+#include "cli/http_get.h"
+#include "core/state.h"
+
+namespace veraqua {
+
+namespace {
+
+/// Work shorter than this shows no progress.
+constexpr std::chrono::milliseconds Patience{300};
+
+std::string OneLine(std::string_view text) {
+    std::string line(text);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
+}
+
+}  // namespace
+
+JulianValue CliAsk::ClockDate() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return JulianFromDate(local.tm_mon + 1, local.tm_mday, local.tm_year + 1900);
+}
+
+void CliAsk::Tell(std::string_view text, std::string_view title, Icon) {
+    ClearLine();
+    fmt::print(stderr, "{}: {}\n", title, OneLine(text));
+}
+
+bool CliAsk::YesNo(std::string_view text, std::string_view title, Icon, bool) {
+    ClearLine();
+    fmt::print(stderr, "{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no");
+    return answer_;
+}
+
+HttpReply CliAsk::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
+    return HttpGet(url, state);
+}
+
+void CliAsk::Progress(std::string_view what, std::size_t done, std::size_t total) {
+    if (done >= total)
+        ClearLine();
+    else
+        ShowState(fmt::format("{} {} of {}", what, done + 1, total));
+}
+
+void CliAsk::ShowState(std::string_view text) {
+    if (!progressAllowed_ || std::chrono::steady_clock::now() - begun_ < Patience || isatty(STDERR_FILENO) == 0) return;
+    fmt::print(stderr, "\r\033[K{}", text);
+    std::fflush(stderr);
+    lineShown_ = true;
+}
+
+void CliAsk::ClearLine() {
+    if (lineShown_) fmt::print(stderr, "\r\033[K");
+    lineShown_ = false;
+}
+
+void CliAsk::ChooseWeatherSource() {
+    State.ReportCancelled = true;
+    State.DownloadFailed = true;
+}
+
+void CliAsk::EndProgram() {
+    ClearLine();
+    std::exit(1);
+}
+
+}  // namespace veraqua

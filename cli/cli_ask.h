@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "core/ask.h"
+
+namespace veraqua {
+
+/// The command line as the outside of the calculating rooms: messages go to stderr, one line each; every question gets
+/// the one answer that was given as an option.
+class CliAsk : public Ask {
+  public:
+    /// The local date of the computer's clock.
+    static JulianValue ClockDate();
+
+    void SetNow(JulianValue today) { now_ = today; }
+    void SetAnswer(bool yes) { answer_ = yes; }
+
+    /// Whether long work may show a progress line; it does so only where stderr is a terminal.
+    void AllowProgress(bool allowed) { progressAllowed_ = allowed; }
+
+    void Tell(std::string_view text, std::string_view title = ProgramTitle, Icon icon = Icon::None) override;
+    bool YesNo(std::string_view text, std::string_view title, Icon icon, bool noIsDefault) override;
+    JulianValue Now() const override { return now_; }
+    HttpReply Get(const std::string& url, const std::function<void(std::string_view)>& state) override;
+    void Progress(std::string_view what, std::size_t done, std::size_t total) override;
+    /// There is no chooser on the command line: the weather check ends as when it was left without a choice.
+    void ChooseWeatherSource() override;
+    [[noreturn]] void EndProgram() override;
+
+    /// Shows a passing text in the progress line.
+    void ShowState(std::string_view text);
+
+  private:
+    void ClearLine();
+
+    JulianValue now_ = ClockDate();
+    bool answer_ = false;
+    bool progressAllowed_ = true;
+    bool lineShown_ = false;
+    std::chrono::steady_clock::time_point begun_ = std::chrono::steady_clock::now();
+};
+
+}  // namespace veraqua

@@ -1,0 +1,50 @@
+#include <fmt/format.h>
+
+#include "cli/commands.h"
+#include "cli/text_table.h"
+#include "core/crop_table.h"
+#include "core/state.h"
+#include "weather/default_weather.h"
+
+namespace veraqua {
+
+namespace {
+
+using Side = TextTable::Side;
+
+std::string CodeOf(std::size_t number) { return fmt::format("{:02}", number); }
+
+}  // namespace
+
+int RunCrops(Session& session) {
+    if (!session.OpenData(files::Access::Read)) return ExitRefused;
+    LoadCropList(session.Outside);
+    Json json = Json::array();
+    TextTable table({{"Number", Side::Right}, {"Crop"}, {"Kind"}});
+    for (std::size_t i = 0; i < State.CropNames.size(); ++i) {
+        const std::string& name = State.CropNames[i];
+        const bool hay = name.starts_with(HayMark);
+        json.push_back({{"number", i + 1}, {"name", name}, {"hay", hay}});
+        table.Add({fmt::format("{}", i + 1), name, hay ? "hay" : ""});
+    }
+    session.Print(json, table.Text());
+    return ExitDone;
+}
+
+int RunStations(Session& session) {
+    if (!session.OpenData(files::Access::Read)) return ExitRefused;
+    Json json = Json::array();
+    TextTable table({{"Code"}, {"Station"}, {"Default weather of"}});
+    for (std::size_t i = 0; i < State.DefaultStations.size(); ++i) {
+        const std::string code = CodeOf(i + 1);
+        const std::string region(RegionOfStation(code));
+        json.push_back({{"code", code},
+                        {"name", State.DefaultStations[i]},
+                        {"region", region.empty() ? Json(nullptr) : Json(region)}});
+        table.Add({code, State.DefaultStations[i], region});
+    }
+    session.Print(json, table.Text());
+    return ExitDone;
+}
+
+}  // namespace veraqua

@@ -1,0 +1,85 @@
+#include "cli/http_get.h"
+
+#include <memory>
+
+#include <curl/curl.h>
+
+namespace veraqua {
+
+namespace {
+
+constexpr long SilenceLimitSeconds = 30;
+constexpr std::size_t LargestText = std::size_t{4} << 20;
+constexpr long MostRedirects = 10;
+constexpr long HttpOk = 200;
+
+struct Received {
+    std::string Body;
+    std::string StatusLine;
+    bool TooLarge = false;
+};
+
+std::size_t TakeBody(const char* data, std::size_t size, std::size_t count, void* user) {
+    auto& received = *static_cast<Received*>(user);
+    if (received.Body.size() + size * count > LargestText) {
+        received.TooLarge = true;
+        return 0;
+    }
+    received.Body.append(data, size * count);
+    return size * count;
+}
+
+std::size_t TakeHeader(const char* data, std::size_t size, std::size_t count, void* user) {
+    const std::string_view line(data, size * count);
+    if (line.starts_with("HTTP/"))
+        static_cast<Received*>(user)->StatusLine = line.substr(0, line.find_first_of("\r\n"));
+    return size * count;
+}
+
+/// The reason in a status line such as "HTTP/1.1 404 Not Found".
+std::string ReasonOf(const std::string& statusLine) {
+    const std::size_t code = statusLine.find(' ');
+    const std::size_t reason = code == std::string::npos ? code : statusLine.find(' ', code + 1);
+    return reason == std::string::npos ? "the server refused" : statusLine.substr(reason + 1);
+}
+
+using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+
+Handle MakeHandle(const std::string& url, Received& received) {
+    Handle handle(curl_easy_init(), &curl_easy_cleanup);
+    CURL* curl = handle.get();
+    if (curl == nullptr) return handle;
+    curl_easy_setopt(curl, CURLOPT_URL, url.c_str());
+    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 1L);
+    curl_easy_setopt(curl, CURLOPT_MAXREDIRS, MostRedirects);
+    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, SilenceLimitSeconds);
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, 1L);
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, SilenceLimitSeconds);
+    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");
+    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &TakeBody);
+    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &received);
+    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &TakeHeader);
+    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &received);
+    return handle;
+}
+
+}  // namespace
+
+HttpReply HttpGet(const std::string& url, const std::function<void(std::string_view)>& state) {
+    Received received;
+    const Handle handle = MakeHandle(url, received);
+    if (!handle) return {false, CURLE_FAILED_INIT, "the network can't be used", {}};
+    state("Resolving IP/Connecting...");
+    const CURLcode outcome = curl_easy_perform(handle.get());
+    if (received.TooLarge) return {false, CURLE_FILESIZE_EXCEEDED, "the text is larger than 4 MiB", {}};
+    if (outcome != CURLE_OK) return {false, static_cast<int>(outcome), curl_easy_strerror(outcome), {}};
+    long status = 0;
+    curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &status);
+    if (status != HttpOk) return {false, static_cast<int>(status), ReasonOf(received.StatusLine), {}};
+    return {true, static_cast<int>(status), {}, std::move(received.Body)};
+}
+
+}  // namespace veraqua
