@@ -68,24 +68,25 @@ std::string_view TextItems::Token() {
 
 double TextItems::Number() {
     const std::string_view token = Token();
-    const std::string_view digits = token.starts_with('+') ? token.substr(1) : token;
+    const std::string_view digits = token.starts_with('+') && !token.starts_with("+-") ? token.substr(1) : token;
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc() || end != digits.data() + digits.size())
         Refuse(fmt::format("\"{}\" is no number", Utf8FromLatin1(token.substr(0, 40))));
-    TakeSeparator();
     return value;
 }
 
 float TextItems::Single() {
     const double value = Number();
     if (!FitsSingle(value)) Refuse("a number is too large");
+    TakeSeparator();
     return static_cast<float>(value);
 }
 
 std::int16_t TextItems::Integer16() {
     const double value = Number();
     if (!FitsInteger16(value)) Refuse(fmt::format("{} is outside -32768 to 32767", value));
+    TakeSeparator();
     return ToInteger16(value, "an item");
 }
 

@@ -27,7 +27,7 @@ class TextItems {
 
   private:
     std::string_view Token();
-    double Number();
+    double Number();  ///< without the separator behind it, so that a refusal names its line
     void Advance(std::size_t count);
     void SkipBlanks(std::string_view blanks);
     void TakeSeparator();
