@@ -47,8 +47,9 @@ class Reader {
                 fmt::format("{}: {} bytes, but its counts ask for {}.", fileName_, bytes_.size(), position_ + count));
     }
 
+    /// Fails because of the number last taken.
     [[noreturn]] void Refuse(std::string_view what) const {
-        throw RunTimeFailure(fmt::format("{}: {} at byte {}.", fileName_, what, offset_ + position_));
+        throw RunTimeFailure(fmt::format("{}: {} at byte {}.", fileName_, what, offset_ + lastNumber_));
     }
 
   private:
@@ -62,16 +63,14 @@ class Reader {
     template <StoredScalar T>
     void Take(T& value) {
         using Bits = std::conditional_t<sizeof(T) == 2, std::uint16_t, std::uint32_t>;
+        lastNumber_ = position_;
         const std::string_view bytes = Next(sizeof(T));
         Bits bits = 0;
         for (std::size_t i = sizeof(T); i-- > 0;)
             bits = static_cast<Bits>((bits << 8) | static_cast<unsigned char>(bytes[i]));
         value = std::bit_cast<T>(bits);
         if constexpr (std::same_as<T, float>) {
-            if (!std::isfinite(value)) {
-                position_ -= sizeof(T);
-                Refuse("a number that is not finite");
-            }
+            if (!std::isfinite(value)) Refuse("a number that is not finite");
         }
     }
 
@@ -89,6 +88,7 @@ class Reader {
     std::string_view fileName_;
     std::size_t offset_;
     std::size_t position_ = 0;
+    std::size_t lastNumber_ = 0;
 };
 
 /// Appends records to the bytes of a file.

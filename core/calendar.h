@@ -15,6 +15,9 @@ using JulianValue = std::int32_t;
 /// No typed date comes near this, and day arithmetic up to it can't overflow: a later day in a file is damage.
 constexpr JulianValue LatestPossibleDay = 400'000'000;
 
+/// Whether a file may hold `day`; 0 is no date.
+constexpr bool IsPossibleDay(JulianValue day) { return day >= 0 && day <= LatestPossibleDay; }
+
 struct Date {
     int Month = 0;
     int Day = 0;

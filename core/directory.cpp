@@ -22,23 +22,23 @@ constexpr std::size_t StatWidth = StoredSize<StatRecord>();
 constexpr std::size_t UpdatesWidth = sizeof(JulianValue);
 
 void CheckDay(JulianValue day, std::string_view file, int row) {
-    if (day < 0 || day > LatestPossibleDay)
+    if (!IsPossibleDay(day))
         throw RunTimeFailure(fmt::format("{}: row {} has the impossible day number {}.", file, row, day));
 }
 
-void ReadStat(Reader& reader, int rows) {
+void ReadStat(Reader& reader, DirectoryRows<StatRecord>& stat, int rows) {
     for (int row = 1; row <= rows; ++row) {
-        StatRecord& record = State.Stat[row];
+        StatRecord& record = stat[row];
         Layout(reader, record);
         for (const JulianValue day : {record.LastDay, record.NextIrrDay, record.NextCutDay})
             CheckDay(day, StatFile, row);
     }
 }
 
-void ReadUpdates(Reader& reader, int rows) {
+void ReadUpdates(Reader& reader, DirectoryRows<JulianValue>& updates, int rows) {
     for (int row = 1; row <= rows; ++row) {
-        reader(State.Updates[row]);
-        CheckDay(State.Updates[row], UpdatesFile, row);
+        reader(updates[row]);
+        CheckDay(updates[row], UpdatesFile, row);
     }
 }
 
@@ -57,6 +57,7 @@ void LoadStationNames() {
     if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", DefaultWeatherFile));
     TextItems items(*bytes, DefaultWeatherFile);
     const int names = items.Integer16();
+    if (names < 0) throw RunTimeFailure(fmt::format("{}: {} names of stations.", DefaultWeatherFile, names));
     items.Integer16();
     for (int i = 0; i < names; ++i) State.DefaultStations.push_back(items.Text());
 }
@@ -91,17 +92,19 @@ void LoadFieldDirectory() {
         throw RunTimeFailure(fmt::format("{}: {} rows, but there are at most {}.", StatFile, wholeRows, MaxFields));
     const int rows = static_cast<int>(wholeRows);
 
-    State.Stat = {};
-    State.Updates = {};
+    DirectoryRows<StatRecord> loadedStat;
+    DirectoryRows<JulianValue> loadedUpdates;
     Reader statReader(*stat, StatFile);
-    ReadStat(statReader, rows);
+    ReadStat(statReader, loadedStat, rows);
     if (const auto updates = files::Read(UpdatesFile)) {
         Reader updatesReader(*updates, UpdatesFile);
         updatesReader.Expect(wholeRows * UpdatesWidth);
-        ReadUpdates(updatesReader, rows);
+        ReadUpdates(updatesReader, loadedUpdates, rows);
     } else if (files::MayWrite()) {
         files::Write(UpdatesFile, BlankUpdatesFile(rows));
     }
+    State.Stat = loadedStat;
+    State.Updates = loadedUpdates;
 }
 
 void SaveFieldRow(Ask& ask, int row) {
@@ -112,6 +115,7 @@ void SaveFieldRow(Ask& ask, int row) {
             ask.EndProgram();
         }
     }
+    files::ChangeSet bothFiles;
     std::string record;
     Writer writer(record);
     Layout(writer, State.Stat[row]);
@@ -120,6 +124,7 @@ void SaveFieldRow(Ask& ask, int row) {
     record.clear();
     writer(State.Updates[row]);
     WriteRecord(UpdatesFile, record, row);
+    bothFiles.Commit();
 }
 
 void StartDirectory() {

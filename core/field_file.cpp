@@ -80,15 +80,23 @@ class FieldFileLayout {
     File& file_;
 };
 
-void CheckHeader(const HeaderCommon& header, bool isHay, const Reader& reader) {
+void CheckHeader(const HeaderCommon& header, bool isHay, std::string_view fileName) {
+    const auto refuse = [fileName](const std::string& what) {
+        throw RunTimeFailure(fmt::format("{}: {}.", fileName, what));
+    };
     if ((header.CropName.First() == HayMark) != isHay)
-        reader.Refuse(
-            fmt::format("the crop \"{}\" is not of the kind that the field directory has", header.CropName.Text()));
+        refuse(fmt::format("the crop \"{}\" is not of the kind that the field directory has", header.CropName.Text()));
     for (const int top : {header.CapacityTop, header.ContentTop})
-        if (top < 0 || top > HighestZone)
-            reader.Refuse(fmt::format("the header says that the highest soil zone is {}", top));
-    if (header.PlantDay < 1 || header.PlantDay > LatestPossibleDay)
-        reader.Refuse(fmt::format("the header has the impossible planting day {}", header.PlantDay));
+        if (top < 0 || top > HighestZone) refuse(fmt::format("the header says that the highest soil zone is {}", top));
+    if (header.PlantDay == 0 || !IsPossibleDay(header.PlantDay))
+        refuse(fmt::format("the header has the impossible planting day {}", header.PlantDay));
+}
+
+template <class Record>
+void CheckDays(const std::vector<Record>& list, std::string_view fileName) {
+    for (const Record& record : list)
+        if (!IsPossibleDay(record.Day))
+            throw RunTimeFailure(fmt::format("{}: a list has the impossible day {}.", fileName, record.Day));
 }
 
 std::size_t TakeCount(Reader& reader, std::string_view what) {
@@ -145,7 +153,7 @@ FieldFile ParseFieldFile(std::string_view bytes, bool isHay, std::string_view fi
 
     const std::size_t lastRow = TakeCount(reader, "as the last day row");
     layout.Header();
-    CheckHeader(file.Header(), isHay, reader);
+    CheckHeader(file.Header(), isHay, fileName);
     layout.SoilArrays();
 
     reader.Expect((lastRow + 1) * StoredSize<DayRecord>());
@@ -161,6 +169,7 @@ FieldFile ParseFieldFile(std::string_view bytes, bool isHay, std::string_view fi
     });
     reader.Expect(listBytes);
     layout.Lists();
+    EachList(file.Lists, isHay, [fileName](const auto& list) { CheckDays(list, fileName); });
     return file;
 }
 
@@ -244,7 +253,8 @@ void ApplyChanges(FieldFile& file, const FieldChanges& changes) {
         MergeAfter(lists.History, changes.SeamDay, added.History);
         MergeAfter(lists.Leaching, changes.SeamDay, added.Leaching);
     }
-    bool rewritten = changes.Merge;
+    // Rows of another number move all lists, so that all are written anew.
+    bool rewritten = changes.Merge || !changes.Days.empty();
     const auto finish = [&rewritten](auto& list, bool isNew) {
         rewritten = rewritten || isNew;
         if (rewritten && IsLoneZero(list)) list.clear();

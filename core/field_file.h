@@ -100,8 +100,8 @@ struct FieldChanges {
     bool IrrigationRemoved = false;
 };
 
-/// Applies `changes` to `file`. From the first list on that has new content (in file order) a list that is left with
-/// one record of value 0 loses it: a lone 0 stands for no record.
+/// Applies `changes` to `file`. From the first list on that has new content (in file order; with new rows all lists) a
+/// list that is left with one record of value 0 loses it: a lone 0 stands for no record.
 void ApplyChanges(FieldFile& file, const FieldChanges& changes);
 
 /// Writes the file of `CurrentField` anew: `changes` applied to what stands there, the header in the state, and `soil`.

@@ -1,0 +1,316 @@
+#include "core/field_file.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "core/state.h"
+#include "tests/support/builders.h"
+#include "tests/support/bytes.h"
+#include "tests/support/data_directory.h"
+#include "tests/support/failure.h"
+
+namespace veraqua {
+
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+/// An ordinary field with fixed soil, two Capacity and three Content zones, two days and something in every list.
+/// Day 730426 (hexadecimal 0B253A) is 01-01-2000; the singles are exact in binary.
+std::string OrdinaryBytes() {
+    return Hex("01 00") +                                                      //   0 last day row
+           "NORTH 40  MAIZE GRAIN  06" +                                       //   2 field ID, crop, station
+           Hex("01 00  02 00  3A 25 0B 00") +                                  //  27 tops 1 and 2; planted 730426
+           Hex("00 00 80 3E  00 00 C0 3F") +                                   //  35 roots 0.25 to 1.5 m
+           Hex("00 00 20 41  00 00 F0 41") +                                   //  43 thresholds 10 and 30
+           Hex("6C 04  A0 00") +                                               //  51 harvest at 1132, season 160
+           Hex("00 80 E3 44") +                                                //  55 Kc span 1820
+           Hex("00 00 80 3F  00 00 00 BF  00 00 80 3E") +                      //  59 1, -0.5, 0.25
+           Hex("00 00 00 BE  00 00 00 40  00 00 80 C0") +                      //  71 -0.125, 2, -4
+           Hex("32 00  00 00 40 3F") +                                         //  83 MAD 50, efficiency 0.75
+           Hex("00 00 00 3F  00 00 20 3F") +                                   //  89 intervals 0.5 and 0.625
+           Hex("8C 00  96 00") +                                               //  97 Capacity 140, 150
+           Hex("5A 00  64 00  FB FF") +                                        // 101 Content 90, 100, -5
+           std::string(24, '\0') +                                             // 107 Bounds
+           Hex("00 00 28 42  00 00 00 00  00 00 80 3E  00 00 00 00  04 00") +  // 131 row 0: 42, 0, 0.25, 0, 4
+           Hex("00 00 12 42  00 00 40 41  00 00 00 3F  00 00 C0 40  05 00") +  // 149 row 1: 36.5, 12, 0.5, 6, 5
+           Hex("01 00  02 00  01 00  01 00  01 00  02 00  03 00") +            // 167 counts
+           Hex("3B 25 0B 00  64 00  6E 00  78 00") +                           // 181 History: 730427, 100, 110, 120
+           Hex("3A 25 0B 00  03 00") + Hex("3B 25 0B 00  04 00") +             // 191 Leaching: 3, 4
+           Hex("3B 25 0B 00  37 00") +                                         // 203 MAD changes: 55
+           Hex("3B 25 0B 00  00 00 00 3F") +                                   // 209 Efficiency changes: 0.5
+           Hex("3A 25 0B 00  29 00") +                                         // 217 Depletion changes: 41
+           Hex("3A 25 0B 00  0C 00") + Hex("3B 25 0B 00  00 00") +             // 223 Rain: 12, 0
+           Hex("3A 25 0B 00  01 00") +                                         // 235 Irrigation: 1
+           Hex("3B 25 0B 00  2C 01  3C 25 0B 00  02 00");                      // 241 300, 2
+}
+
+FieldFile OrdinaryFile() {
+    FieldFile file;
+    FieldHeader& header = file.Field;
+    header.FieldId = "NORTH 40";
+    header.CropName = "MAIZE GRAIN";
+    header.StationCode = "06";
+    header.CapacityTop = 1;
+    header.ContentTop = 2;
+    header.PlantDay = 730426;
+    header.RootStart = 0.25F;
+    header.RootMax = 1.5F;
+    header.GddLower = 10;
+    header.GddUpper = 30;
+    header.GddHarvest = 1132;
+    header.SeasonDays = 160;
+    header.KcSpan = 1820;
+    header.KcSine = {1, -0.5F, 0.25F, -0.125F, 2, -4};
+    header.MAD = 50;
+    header.IrrEff = 0.75F;
+    header.CapacityInterval = 0.5F;
+    header.ContentInterval = 0.625F;
+    file.Soil.Capacity = {140, 150};
+    file.Soil.Content = {90, 100, -5};
+    file.Days = {{42, 0, 0.25F, 0, 4}, {36.5F, 12, 0.5F, 6, 5}};
+    file.Lists.History = {{730427, {100, 110, 120}}};
+    file.Lists.Leaching = {{730426, 3}, {730427, 4}};
+    file.Lists.MadChanges = {{730427, 55}};
+    file.Lists.EfficiencyChanges = {{730427, 0.5F}};
+    file.Lists.DepletionChanges = {{730426, 41}};
+    file.Lists.Rain = {{730426, 12}, {730427, 0}};
+    file.Lists.Irrigation = {{730426, 1}, {730427, 300}, {730428, 2}};
+    return file;
+}
+
+/// A hay field with layers of 0.25, 0.5 and 0.5 m, on its first day, with something in every list.
+std::string HayBytes() {
+    return Hex("00 00") +                                               //   0 last day row
+           "CREEK     @ALFALFA     15" +                                //   2 field ID, crop, station
+           Hex("02 00  01 00  48 25 0B 00  3A 25 0B 00") +              //  27 tops 2 and 1; cut on 730440; planted
+           Hex("00 00 A0 3F  00 00 A0 40  00 00 F0 41") +               //  39 roots 1.25; thresholds 5 and 30
+           Hex("EA 01  04 01  07 00") +                                 //  51 cut at 490, season 260, drying 7
+           Hex("00 00 00 3F  00 00 80 3F  00 00 C0 3F  00 00 00 40") +  //  57 0.5, 1, 1.5, 2
+           Hex("00 00 20 40  00 00 40 40  00 00 60 40  00 00 80 40") +  //  73 2.5, 3, 3.5, 4
+           Hex("00 00 90 40  00 00 A0 40  00 00 B0 40  00 00 C0 40") +  //  89 4.5, 5, 5.5, 6
+           Hex("00 00 D0 C0") +                                         // 105 -6.5
+           Hex("32 00  41 00  00 00 40 3F") +                           // 109 MAD 50, critical 65, efficiency 0.75
+           Hex("00 00 00 00  00 00 00 00") +                            // 117 intervals 0
+           Hex("8C 00  96 00  A0 00") +                                 // 125 Capacity 140, 150, 160
+           Hex("5A 00  64 00") +                                        // 131 Content 90, 100
+           Hex("00 00 80 3E  00 00 00 3F  00 00 00 3F") +               // 135 Bounds
+           std::string(12, '\0') +                                      // 147
+           Hex("00 00 E1 42  00 00 00 00  00 00 A0 3F  00 00 00 00  04 00") +  // 159 row 0: 112.5, 0, 1.25, 0, 4
+           Hex("01 00  01 00  01 00  01 00  01 00  01 00  02 00  03 00") +     // 177 counts
+           Hex("3B 25 0B 00  64 00  6E 00") +                                  // 193 History: 730427, 100, 110
+           Hex("3A 25 0B 00  03 00") +                                         // 201 Leaching
+           Hex("3B 25 0B 00  37 00") +                                         // 207 MAD changes
+           Hex("3B 25 0B 00  00 00 00 3F") +                                   // 213 Efficiency changes
+           Hex("3A 25 0B 00  29 00") +                                         // 221 Depletion changes
+           Hex("3A 25 0B 00  0C 00") +                                         // 227 Rain
+           Hex("3B 25 0B 00  01 00") + Hex("48 25 0B 00  02 00") +             // 233 Cuttings 1 and 2
+           Hex("3A 25 0B 00  01 00") +                                         // 245 Irrigation: 1
+           Hex("3B 25 0B 00  2C 01  3C 25 0B 00  02 00");                      // 251 300, 2
+}
+
+FieldFile HayFile() {
+    FieldFile file;
+    file.IsHay = true;
+    HayHeader& header = file.Hay;
+    header.FieldId = "CREEK";
+    header.CropName = "@ALFALFA";
+    header.StationCode = "15";
+    header.CapacityTop = 2;
+    header.ContentTop = 1;
+    header.NextCutDay = 730440;
+    header.PlantDay = 730426;
+    header.RootMax = 1.25F;
+    header.GddLower = 5;
+    header.GddUpper = 30;
+    header.GddCut = 490;
+    header.SeasonDays = 260;
+    header.DryDays = 7;
+    header.Curve = {0.5F, 1, 1.5F, 2, 2.5F, 3, 3.5F, 4, 4.5F, 5, 5.5F, 6, -6.5F};
+    header.MAD = 50;
+    header.MADCritical = 65;
+    header.IrrEff = 0.75F;
+    file.Soil.Capacity = {140, 150, 160};
+    file.Soil.Content = {90, 100};
+    file.Soil.Bounds = {0.25F, 0.5F, 0.5F};
+    file.Days = {{112.5F, 0, 1.25F, 0, 4}};
+    file.Lists.History = {{730427, {100, 110}}};
+    file.Lists.Leaching = {{730426, 3}};
+    file.Lists.MadChanges = {{730427, 55}};
+    file.Lists.EfficiencyChanges = {{730427, 0.5F}};
+    file.Lists.DepletionChanges = {{730426, 41}};
+    file.Lists.Rain = {{730426, 12}};
+    file.Lists.Cuttings = {{730427, 1}, {730440, 2}};
+    file.Lists.Irrigation = {{730426, 1}, {730427, 300}, {730428, 2}};
+    return file;
+}
+
+void ExpectSame(const FieldFile& file, const FieldFile& expected) {
+    EXPECT_EQ(file.IsHay, expected.IsHay);
+    EXPECT_EQ(file.Field, expected.Field);
+    EXPECT_EQ(file.Hay, expected.Hay);
+    EXPECT_EQ(file.Soil, expected.Soil);
+    EXPECT_EQ(file.Days, expected.Days);
+    EXPECT_EQ(file.Lists, expected.Lists);
+}
+
+TEST(FieldFiles, TheBytesOfBothKindsAreReadAndWrittenAsTheyStand) {
+    ExpectSame(ParseFieldFile(OrdinaryBytes(), false, "field1.dat"), OrdinaryFile());
+    EXPECT_EQ(FieldFileBytes(OrdinaryFile()), OrdinaryBytes());
+    EXPECT_FALSE(OrdinaryFile().VariableSoil());
+
+    ExpectSame(ParseFieldFile(HayBytes(), true, "field1.dat"), HayFile());
+    EXPECT_EQ(FieldFileBytes(HayFile()), HayBytes());
+    EXPECT_TRUE(HayFile().VariableSoil());
+}
+
+/// A new field of four zones: its row 0 holds the 42 mm (00 00 28 42) and the 4 days since a wetting.
+TEST(FieldFiles, ANewFileHas169BytesAndAHayFile199) {
+    const std::string row = Hex("00 00 28 42  00 00 00 00  00 00 00 00  00 00 00 00  04 00");
+    const files::Bytes ordinary = FieldFileBytes(AField().Days({{42, 0, 0, 0, 4}}));
+    EXPECT_EQ(ordinary.size(), 169U);
+    EXPECT_EQ(ordinary.substr(137), row + std::string(14, '\0'));
+    const files::Bytes hay = FieldFileBytes(AField().Hay().Days({{42, 0, 0, 0, 4}}));
+    EXPECT_EQ(hay.size(), 199U);
+    EXPECT_EQ(hay.substr(165), row + std::string(16, '\0'));
+}
+
+TEST(FieldFiles, AFileCutAtAnyByteIsAFailureAndSurplusBytesAreIgnored) {
+    for (const FieldFile& file : {OrdinaryFile(), HayFile()}) {
+        const files::Bytes whole = FieldFileBytes(file);
+        for (std::size_t size = 0; size < whole.size(); ++size)
+            EXPECT_FAILURE(ParseFieldFile(whole.substr(0, size), file.IsHay, "field7.dat"), StartsWith("field7.dat: "))
+                << size;
+        for (std::size_t surplus = 1; surplus < 20; ++surplus)
+            ExpectSame(ParseFieldFile(whole + std::string(surplus, '\xFF'), file.IsHay, "field7.dat"), file);
+    }
+}
+
+TEST(FieldFiles, WhatCannotBeTrueIsAFailureThatNamesFileAndPlace) {
+    const struct {
+        std::size_t Offset;
+        std::string Patch;
+        std::string Says;
+    } cases[] = {
+        {0, Hex("FF FF"), "-1 as the last day row at byte 0"},
+        {0, Hex("FF 7F"), "253 bytes, but its counts ask for 589955"},  // 131 + 32768 rows of 18
+        {12, "@", "not of the kind"},
+        {27, Hex("15 00"), "highest soil zone is 21"},
+        {29, Hex("FF FF"), "highest soil zone is -1"},
+        {31, Hex("00 00 00 00"), "planting day 0"},
+        {31, Hex("FF FF FF FF"), "planting day -1"},
+        {31, Hex("FF FF FF 7F"), "planting day 2147483647"},
+        {85, Hex("00 00 C0 7F"), "not finite at byte 85"},
+        {107, Hex("00 00 80 7F"), "not finite at byte 107"},
+        {149, Hex("00 00 80 FF"), "not finite at byte 149"},
+        {167, Hex("FF FF"), "-1 records in a list at byte 167"},
+        {179, Hex("00 80"), "-32768 records in a list at byte 179"},
+        {167, Hex("FF 7F"), "its counts ask for"},
+        {181, Hex("FF FF FF FF"), "impossible day -1"},
+        {213, Hex("00 00 C0 FF"), "not finite at byte 213"},
+        {247, Hex("FF FF FF 7F"), "impossible day 2147483647"},
+    };
+    for (const auto& c : cases) {
+        const std::string bytes = Patched(OrdinaryBytes(), c.Offset, c.Patch);
+        EXPECT_FAILURE(ParseFieldFile(bytes, false, "field7.dat"),
+                       AllOf(StartsWith("field7.dat: "), HasSubstr(c.Says)));
+    }
+    EXPECT_FAILURE(ParseFieldFile(HayBytes(), false, "field7.dat"), HasSubstr("not of the kind"));
+    EXPECT_FAILURE(ParseFieldFile(OrdinaryBytes(), true, "field7.dat"), HasSubstr("not of the kind"));
+}
+
+TEST(FieldFiles, CountsAreSigned16Bit) {
+    FieldFile file = AField();
+    file.Days.resize(32768);
+    file.Lists.Rain.resize(32767);
+    EXPECT_EQ(FieldFileBytes(file).size(), 169U + 32767 * 18 + 32767 * 6);
+    file.Days.resize(32769);
+    EXPECT_FAILURE(FieldFileBytes(file), HasSubstr("32768 day rows"));
+    file.Days.resize(1);
+    file.Lists.Rain.resize(32768);
+    EXPECT_FAILURE(FieldFileBytes(file), HasSubstr("32768 records in a list"));
+}
+
+/// Planted on day 1000, 11 rows; profiles of 10 up to 1003 and of 20 up to 1007, 30 since.
+TEST(AsOfADay, TheDayIsMovedIntoTheRowsAndTakesTheProfileOfItsTime) {
+    const FieldFile file = AField().PlantedOn(1000).Days(11).Content(30).With([](FieldFile& f) {
+        f.Lists.History = {{1003, {10}}, {1007, {20}}};
+    });
+    const struct {
+        JulianValue Asked;
+        JulianValue Day;
+        std::size_t Row;
+        std::int16_t Content;
+    } cases[] = {
+        {0, 1000, 0, 10},     {999, 1000, 0, 10},
+        {1000, 1000, 0, 10},  {1002, 1002, 2, 10},
+        {1003, 1003, 3, 20},  {1006, 1006, 6, 20},
+        {1007, 1007, 7, 30},  {1010, 1010, 10, 30},
+        {1011, 1010, 10, 30}, {LatestPossibleDay, 1010, 10, 30},
+    };
+    for (const auto& c : cases) {
+        const DayView view = AsOf(file, c.Asked);
+        EXPECT_EQ(view.Day, c.Day) << c.Asked;
+        EXPECT_EQ(view.Row, c.Row) << c.Asked;
+        EXPECT_EQ(view.Content[0], c.Content) << c.Asked;
+    }
+    EXPECT_EQ(AsOf(AField().PlantedOn(1000), 1005).Content[0], 140) << "without a history the file's own profile";
+}
+
+struct FieldFilesOnDisk : DirectoryTest {};
+
+TEST_F(FieldFilesOnDisk, SelectingAFieldTakesItsKindItsHeaderItsStationAndItsTotals) {
+    State.DefaultStations = {"Arvendale", "Brannock Ford"};
+    AField().Station("02").Rain(731700, 12).Rain(731701, 5).Irrigation(731702, 40).StoreAt(1);
+    const FieldFile hay = AField().Hay().Station("09").Layers({0.25F, 0.75F}).StoreAt(2);
+    State.MadExceededDay = 731700;
+    State.DriedOutDay = 731701;
+
+    ASSERT_TRUE(SelectField(User, 1));
+    EXPECT_FALSE(State.IsHay);
+    EXPECT_FALSE(State.VariableSoil);
+    EXPECT_EQ(State.Field.CropName.Text(), "MAIZE GRAIN");
+    EXPECT_EQ(State.RainTotal, 17);
+    EXPECT_EQ(State.IrrigationTotal, 40);
+    EXPECT_EQ(State.StationCode, "02");
+    EXPECT_EQ(State.StationName, "Brannock Ford");
+    EXPECT_EQ(State.MadExceededDay, 0);
+    EXPECT_EQ(State.DriedOutDay, 0);
+
+    ASSERT_TRUE(SelectField(User, 2));
+    EXPECT_EQ(State.CurrentField, 2);
+    EXPECT_TRUE(State.IsHay);
+    EXPECT_TRUE(State.VariableSoil);
+    EXPECT_EQ(State.Hay, hay.Hay);
+    EXPECT_EQ(State.RainTotal, 0);
+    EXPECT_EQ(State.StationName, "UNKNOWN");
+    EXPECT_THAT(User.Told, IsEmpty());
+}
+
+TEST_F(FieldFilesOnDisk, AMissingFileIsToldAndADamagedOneIsAFailure) {
+    AField().StoreAt(3);
+    Directory.Delete("field3.dat");
+    EXPECT_FALSE(SelectField(User, 3));
+    EXPECT_THAT(User.Told,
+                ElementsAre(ScriptAsk::Message{"This is not good. :-( Your field file is missing...  Select another.",
+                                               "FIELD:  field3.dat"}));
+    EXPECT_FAILURE(LoadFieldFile(3), StartsWith("field3.dat: "));
+    EXPECT_FAILURE(WriteField({}, {}), StartsWith("field3.dat: "));
+
+    const std::string damaged = OrdinaryBytes().substr(0, 200);
+    Directory.Put("FIELD3.DAT", damaged);
+    EXPECT_FAILURE(SelectField(User, 3), StartsWith("field3.dat: "));
+    EXPECT_FAILURE(WriteField({}, {}), StartsWith("field3.dat: "));
+    EXPECT_EQ(Directory.Raw("FIELD3.DAT"), damaged);
+    EXPECT_FALSE(Directory.Has("field3.dat"));
+}
+
+}  // namespace
+
+}  // namespace veraqua
