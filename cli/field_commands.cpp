@@ -16,7 +16,6 @@ namespace {
 /// The file of the field in `row`; nothing after a message if there is no such field or no file.
 std::optional<FieldFile> FieldOf(Session& session, int row) {
     if (!IsField(session, row)) return std::nullopt;
-    State.CurrentField = static_cast<std::int16_t>(row);
     if (!SelectField(session.Outside, row)) return std::nullopt;
     return LoadFieldFile(row);
 }

@@ -4,6 +4,7 @@
 #include "cli/text_table.h"
 #include "core/crop_table.h"
 #include "core/state.h"
+#include "shell/first_start.h"
 #include "weather/default_weather.h"
 
 namespace veraqua {
@@ -15,6 +16,18 @@ using Side = TextTable::Side;
 std::string CodeOf(std::size_t number) { return fmt::format("{:02}", number); }
 
 }  // namespace
+
+int RunInit(Session& session, bool sample) {
+    const std::string path = session.DirectoryToMake();
+    files::MakeDirectory(path);
+    files::Open(path, files::Access::Write);
+    const InitOutcome outcome = MakeDataDirectory(session.Outside, sample);
+    if (outcome.Refused) return ExitRefused;
+    session.Print({{"data", path}, {"created", outcome.Created}},
+                  outcome.Created.empty() ? fmt::format("{}: everything is there already.\n", path)
+                                          : fmt::format("{}: made {}.\n", path, fmt::join(outcome.Created, ", ")));
+    return ExitDone;
+}
 
 int RunCrops(Session& session) {
     if (!session.OpenData(files::Access::Read)) return ExitRefused;
