@@ -1,0 +1,136 @@
+#include "tests/core/failing_disks.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+namespace veraqua::files {
+
+namespace {
+
+struct stat StatusOf(int file) {
+    struct stat status {};
+    fstat(file, &status);
+    return status;
+}
+
+std::string ContentsOf(int file) {
+    std::string bytes(static_cast<std::size_t>(StatusOf(file).st_size), '\0');
+    if (pread(file, bytes.data(), bytes.size(), 0) < 0) bytes = "unreadable";
+    return bytes;
+}
+
+}  // namespace
+
+bool RefusingDisk::IsRefused() {
+    if (left_ <= 0) return left_ < 0;
+    --left_;
+    if (left_ > 0) return false;
+    if (lasts_) left_ = -1;
+    return true;
+}
+
+int RefusingDisk::Open(int directory, const char* name, int flags, mode_t mode) {
+    return IsRefused() ? Refuse() : QuickDisk::Open(directory, name, flags, mode);
+}
+
+ssize_t RefusingDisk::Write(int file, const char* bytes, std::size_t count, off_t position) {
+    const bool alreadyRefuses = left_ < 0;
+    if (!IsRefused()) return QuickDisk::Write(file, bytes, count, position);
+    if (!alreadyRefuses) QuickDisk::Write(file, bytes, count / 2, position);
+    return Refuse();
+}
+
+int RefusingDisk::SetSize(int file, off_t size) { return IsRefused() ? Refuse() : QuickDisk::SetSize(file, size); }
+
+int RefusingDisk::Reserve(int file, off_t position, off_t size) {
+    return IsRefused() ? Refuse() : QuickDisk::Reserve(file, position, size);
+}
+
+int RefusingDisk::Flush(int file) { return IsRefused() ? Refuse() : QuickDisk::Flush(file); }
+
+int RefusingDisk::FlushFileSystem(int file) { return IsRefused() ? Refuse() : QuickDisk::FlushFileSystem(file); }
+
+int RefusingDisk::Rename(int directory, const char* from, const char* to) {
+    return IsRefused() ? Refuse() : QuickDisk::Rename(directory, from, to);
+}
+
+int RefusingDisk::Unlink(int directory, const char* name) {
+    return IsRefused() ? Refuse() : QuickDisk::Unlink(directory, name);
+}
+
+int RefusingDisk::MakeDirectory(const char* path) { return IsRefused() ? Refuse() : QuickDisk::MakeDirectory(path); }
+
+int FailingDisk::Refuse() {
+    errno = error_;
+    return -1;
+}
+
+DyingDisk::DyingDisk(std::string directory)
+    : RefusingDisk(true), directory_(std::move(directory)), flushedNames_(CurrentNames()) {
+    for (const auto& [name, inode] : flushedNames_) {
+        Keep(open((directory_ + name).c_str(), O_RDONLY | O_CLOEXEC));
+        flushedContents_[inode] = ContentsOf(kept_.at(inode));
+    }
+}
+
+DyingDisk::~DyingDisk() {
+    for (const auto& [inode, file] : kept_) close(file);
+}
+
+std::map<std::string, ino_t> DyingDisk::CurrentNames() const {
+    std::map<std::string, ino_t> names;
+    for (const auto& entry : std::filesystem::directory_iterator(directory_)) {
+        struct stat status {};
+        stat(entry.path().c_str(), &status);
+        names[entry.path().filename()] = status.st_ino;
+    }
+    names.erase("veraqua.lock");
+    return names;
+}
+
+void DyingDisk::Keep(int file) {
+    if (!kept_.try_emplace(StatusOf(file).st_ino, file).second) close(file);
+}
+
+int DyingDisk::Open(int directory, const char* name, int flags, mode_t mode) {
+    const int file = RefusingDisk::Open(directory, name, flags, mode);
+    // To close a second descriptor of the lock would give the lock back.
+    if (file >= 0 && std::string(name) != "veraqua.lock") Keep(openat(directory, name, O_RDONLY | O_CLOEXEC));
+    return file;
+}
+
+int DyingDisk::Flush(int file) {
+    const int result = RefusingDisk::Flush(file);
+    const struct stat status = StatusOf(file);
+    if (S_ISDIR(status.st_mode))
+        flushedNames_ = CurrentNames();
+    else
+        flushedContents_[status.st_ino] = ContentsOf(kept_.at(status.st_ino));
+    return result;
+}
+
+int DyingDisk::FlushFileSystem(int file) {
+    const int result = RefusingDisk::FlushFileSystem(file);
+    flushedNames_ = CurrentNames();
+    for (const auto& [inode, kept] : kept_) flushedContents_[inode] = ContentsOf(kept);
+    return result;
+}
+
+Contents DyingDisk::Left(PowerCut cut) const {
+    Contents left;
+    for (const auto& [name, inode] : cut.NamesSurvive ? CurrentNames() : flushedNames_) {
+        const auto flushed = flushedContents_.find(inode);
+        if (cut.ContentsSurvive)
+            left[name] = ContentsOf(kept_.at(inode));
+        else
+            left[name] = flushed != flushedContents_.end() ? flushed->second : "";
+    }
+    return left;
+}
+
+}  // namespace veraqua::files

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstddef>
+#include <map>
+#include <string>
+
+#include "tests/core/files_fixture.h"
+
+namespace veraqua::files {
+
+/// A disk that refuses one call, or that one and all after it. A write is done by half before it is refused.
+class RefusingDisk : public QuickDisk {
+  public:
+    int Open(int directory, const char* name, int flags, mode_t mode) override;
+    ssize_t Write(int file, const char* bytes, std::size_t count, off_t position) override;
+    int SetSize(int file, off_t size) override;
+    int Reserve(int file, off_t position, off_t size) override;
+    int Flush(int file) override;
+    int FlushFileSystem(int file) override;
+    int Rename(int directory, const char* from, const char* to) override;
+    int Unlink(int directory, const char* name) override;
+    int MakeDirectory(const char* path) override;
+
+    /// From now on the `n`th call is refused, counted from 1.
+    void RefuseCall(int n) { left_ = n; }
+
+  protected:
+    explicit RefusingDisk(bool lasts) : lasts_(lasts) {}
+
+    /// What a refused call does.
+    virtual int Refuse() = 0;
+
+  private:
+    bool IsRefused();
+
+    bool lasts_;
+    int left_ = 0;  ///< 0: none is refused, or it has been; -1: all are
+};
+
+/// Refused calls fail with `error`.
+class FailingDisk : public RefusingDisk {
+  public:
+    FailingDisk(int n, int error, bool lasts) : RefusingDisk(lasts), error_(error) { RefuseCall(n); }
+
+  protected:
+    int Refuse() override;
+
+  private:
+    int error_;
+};
+
+/// Thrown where the program dies. No clean-up of the code under test catches it.
+struct Died {};
+
+/// What a power cut leaves of the changes that have not been flushed, each taken for the whole directory.
+struct PowerCut {
+    bool NamesSurvive;
+    bool ContentsSurvive;
+};
+/// The first is none: the program alone dies.
+inline constexpr PowerCut PowerCuts[] = {{true, true}, {true, false}, {false, true}, {false, false}};
+
+/// At the refused call the program dies, and whatever it would do afterwards has no effect. Keeps account of what has
+/// been flushed: a file's contents by its own flush, the names by that of the directory, both by that of the file
+/// system.
+class DyingDisk : public RefusingDisk {
+  public:
+    explicit DyingDisk(std::string directory);
+    ~DyingDisk() override;
+
+    int Open(int directory, const char* name, int flags, mode_t mode) override;
+    int Flush(int file) override;
+    int FlushFileSystem(int file) override;
+
+    /// The directory after a power cut at this moment.
+    Contents Left(PowerCut cut) const;
+
+  protected:
+    int Refuse() override { throw Died(); }
+
+  private:
+    std::map<std::string, ino_t> CurrentNames() const;
+    void Keep(int file);
+
+    std::string directory_;
+    std::map<std::string, ino_t> flushedNames_;
+    std::map<ino_t, std::string> flushedContents_;
+    std::map<ino_t, int> kept_;  ///< descriptors: an inode that one is open of isn't used for another file
+};
+
+}  // namespace veraqua::files

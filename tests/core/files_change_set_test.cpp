@@ -1,0 +1,150 @@
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "core/failure.h"
+#include "tests/core/files_fixture.h"
+
+namespace veraqua::files {
+
+namespace {
+
+class CountingDisk : public QuickDisk {
+  public:
+    int Open(int directory, const char* name, int flags, mode_t mode) override {
+        ++Opens;
+        return Disk::Open(directory, name, flags, mode);
+    }
+    int Flush(int) override {
+        ++Flushes;
+        return 0;
+    }
+    int FlushFileSystem(int) override {
+        ++Flushes;
+        return 0;
+    }
+
+    int Opens = 0;
+    int Flushes = 0;
+};
+
+}  // namespace
+
+class ChangeSets : public FilesTest {
+  protected:
+    ChangeSets() {
+        Place(before_);
+        Open(Path(), Access::Write);
+    }
+
+    const Contents before_{{"stat.dat", "rows"}, {"field1.dat", "one"}, {"field2.dat", "two"}};
+};
+
+TEST_F(ChangeSets, AreSeenAtOnceAndReachTheDiskAtTheirCommit) {
+    ChangeSet set;
+    Write("stat.dat", "more rows");
+    Remove("field1.dat");
+    Rename("field2.dat", "field1.dat");
+    Write("field3.dat", "three");
+    const Contents after{{"stat.dat", "more rows"}, {"field1.dat", "two"}, {"field3.dat", "three"}};
+    EXPECT_EQ(Seen(), after);
+    EXPECT_FALSE(Exists("field2.dat"));
+    EXPECT_EQ(Read("field2.dat"), nullptr);
+    EXPECT_EQ(OnDisk(), before_);
+    set.Commit();
+    EXPECT_EQ(OnDisk(), after);
+    EXPECT_EQ(Seen(), after);
+}
+
+TEST_F(ChangeSets, LeaveNoTraceWithoutCommit) {
+    {
+        const ChangeSet set;
+        Write("stat.dat", "more rows");
+        Remove("field1.dat");
+    }
+    EXPECT_EQ(Seen(), before_);
+    EXPECT_EQ(OnDisk(), before_);
+}
+
+TEST_F(ChangeSets, InsideAnotherJoinItOrAreForgottenAlone) {
+    {
+        ChangeSet outer;
+        Write("stat.dat", "outer");
+        {
+            ChangeSet inner;
+            Write("field1.dat", "inner");
+            inner.Commit();
+        }
+        {
+            const ChangeSet inner;
+            Write("stat.dat", "forgotten");
+            Remove("field1.dat");
+            EXPECT_EQ(*Read("stat.dat"), "forgotten");
+        }
+        EXPECT_EQ(*Read("stat.dat"), "outer");
+        EXPECT_EQ(OnDisk(), before_);
+        outer.Commit();
+    }
+    EXPECT_EQ(OnDisk(), (Contents{{"stat.dat", "outer"}, {"field1.dat", "inner"}, {"field2.dat", "two"}}));
+    {
+        const ChangeSet outer;
+        ChangeSet inner;
+        Write("field2.dat", "lost with the outer set");
+        inner.Commit();
+    }
+    EXPECT_EQ(*Read("field2.dat"), "two");
+}
+
+TEST_F(ChangeSets, RenumberFieldsInAnyOrder) {
+    ChangeSet set;
+    Rename("field1.dat", "spare.dat");
+    Rename("field2.dat", "field1.dat");
+    Rename("spare.dat", "field2.dat");
+    Rename("STAT.DAT", "stat.dat");  // onto itself
+    set.Commit();
+    EXPECT_EQ(OnDisk(), (Contents{{"stat.dat", "rows"}, {"field1.dat", "two"}, {"field2.dat", "one"}}));
+}
+
+TEST_F(ChangeSets, ThatMakeNoDifferenceCostNothing) {
+    CountingDisk disk;
+    InstallDisk(&disk);
+    {
+        ChangeSet set;
+        Write("stat.dat", "rows");
+        Write("field1.dat", "other");
+        Write("field1.dat", "one");
+        Write("field9.dat", "made and taken away");
+        Remove("field9.dat");
+        Remove("field8.dat");
+        set.Commit();
+    }
+    EXPECT_EQ(disk.Opens, 0);
+    Write("field1.dat", "other");
+    EXPECT_EQ(disk.Flushes, 3);
+    UseQuickDisk();
+}
+
+TEST_F(ChangeSets, CostTheSameFlushesForOneFileAndForAHundred) {
+    CountingDisk disk;
+    InstallDisk(&disk);
+    ChangeSet set;
+    for (int i = 1; i <= 100; ++i) Write("field" + std::to_string(i) + ".dat", std::string(3000, 'x'));
+    set.Commit();
+    EXPECT_EQ(disk.Flushes, 3);
+    UseQuickDisk();
+}
+
+TEST_F(ChangeSets, ReadAFileFromTheDiskOnce) {
+    Contents changed = before_;
+    changed["field1.dat"] = "changed by another hand";
+    {
+        const ChangeSet set;
+        const auto first = Read("field1.dat");
+        EXPECT_FALSE(Exists("field7.dat"));
+        Place(changed);
+        EXPECT_EQ(Read("FIELD1.DAT"), first);
+    }
+    EXPECT_EQ(*Read("field1.dat"), "changed by another hand");
+}
+
+}  // namespace veraqua::files

@@ -1,0 +1,113 @@
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "core/failure.h"
+#include "tests/core/files_fixture.h"
+
+namespace veraqua::files {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+struct Asked {
+    std::string Label;
+    std::vector<std::string> OnDisk;
+    std::string Name;
+    std::string Found;  ///< empty: none
+};
+
+class FileNames : public FilesTest, public testing::WithParamInterface<Asked> {};
+
+TEST_P(FileNames, AreFoundWithoutRegardToCaseAndKeepTheirSpelling) {
+    const Asked& asked = GetParam();
+    Contents before;
+    for (const std::string& name : asked.OnDisk) before[name] = "contents of " + name;
+    Place(before);
+    Open(Path(), Access::Write);
+
+    EXPECT_EQ(Exists(asked.Name), !asked.Found.empty());
+    const auto contents = Read(asked.Name);
+    EXPECT_EQ(contents ? *contents : "", asked.Found.empty() ? "" : "contents of " + asked.Found);
+
+    Write(asked.Name, "new");
+    Contents after = before;
+    after[asked.Found.empty() ? asked.Name : asked.Found] = "new";
+    EXPECT_EQ(OnDisk(), after);
+    EXPECT_EQ(*Read(asked.Name), "new");
+
+    Remove(asked.Name);
+    EXPECT_FALSE(Exists(asked.Name));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Asked, FileNames,
+    testing::Values(Asked{"Same", {"stat.dat"}, "stat.dat", "stat.dat"},
+                    Asked{"UpperOnDisk", {"STAT.DAT"}, "stat.dat", "STAT.DAT"},
+                    Asked{"UpperAsked", {"stat.dat"}, "STAT.DAT", "stat.dat"},
+                    Asked{"BothMixed", {"Stat.Dat"}, "sTAT.dAT", "Stat.Dat"},
+                    Asked{"LowerWins", {"STAT.DAT", "stat.dat"}, "STAT.DAT", "stat.dat"},
+                    Asked{"FirstOfSeveral", {"Stat.dat", "STAT.dat", "stAT.dat"}, "stat.dat", "STAT.dat"},
+                    Asked{"None", {"stat.da", "stat.dat2"}, "stat.dat", ""},
+                    Asked{"NoneAndMixed", {}, "Field 12.0001", ""},
+                    Asked{"OutsideAscii", {"Br\xC3\xBChl.0001"}, "br\xC3\xBChl.0001", "Br\xC3\xBChl.0001"}),
+    [](const auto& row) { return row.param.Label; });
+
+TEST_F(FilesTest, NamesListsEachFileOnceInItsSpelling) {
+    Place({{"stat.dat", ""}, {"STAT.DAT", ""}, {"Field1.dat", ""}, {"veraqua.journal", ""}, {".veraqua-77-0", ""}});
+    std::filesystem::create_directory(Path() + "old");
+    Open(Path(), Access::Write);
+    EXPECT_THAT(Names(), ElementsAre("Field1.dat", "stat.dat"));
+
+    const ChangeSet set;
+    Write("FIELD1.DAT", "x");
+    Write("Aa.dat", "x");
+    Remove("stat.dat");
+    EXPECT_THAT(Names(), ElementsAre("Aa.dat", "Field1.dat"));
+}
+
+TEST_F(FilesTest, NamesThatNoDataFileCanHaveAreRefused) {
+    Open(Path(), Access::Write);
+    for (const std::string& name : {std::string(""), std::string("."), std::string(".."), std::string("../stat.dat"),
+                                    std::string("a\0b", 3), std::string("Veraqua.Lock"), std::string("veraqua.journal"),
+                                    std::string(".veraqua-1-0"), std::string(256, 'n')}) {
+        SCOPED_TRACE(name);
+        EXPECT_THROW(Read(name), RunTimeFailure);
+        EXPECT_THROW(Exists(name), RunTimeFailure);
+        EXPECT_THROW(Write(name, "x"), RunTimeFailure);
+        EXPECT_THROW(Remove(name), RunTimeFailure);
+    }
+    Write(std::string(255, 'n'), "the longest");
+    EXPECT_THROW(Rename("missing.dat", "other.dat"), RunTimeFailure);
+    EXPECT_THROW(Rename(std::string(255, 'n'), "a/b"), RunTimeFailure);
+    EXPECT_EQ(OnDisk(), (Contents{{std::string(255, 'n'), "the longest"}}));
+}
+
+TEST_F(FilesTest, WhatIsNoFileIsAFailureForReadersAndWriters) {
+    std::filesystem::create_directory(Path() + "field1.dat");
+    ASSERT_EQ(mkfifo((Path() + "field2.dat").c_str(), 0600), 0);
+    Open(Path(), Access::Write);
+    for (const std::string name : {"field1.dat", "field2.dat"}) {
+        SCOPED_TRACE(name);
+        const auto says = ThrowsMessage<RunTimeFailure>(HasSubstr(name));
+        EXPECT_THAT([&] { Read(name); }, says);
+        EXPECT_THAT([&] { Write(name, "x"); }, says);
+        EXPECT_THAT([&] { Remove(name); }, says);
+    }
+}
+
+TEST_F(FilesTest, AFileBeyondAllSenseIsAFailureAndNoAllocation) {
+    Place({{"stat.dat", ""}, {"field1.dat", ""}});
+    std::filesystem::resize_file(Path() + "stat.dat", std::uintmax_t{1} << 40);  // takes no room on the disk
+    std::filesystem::resize_file(Path() + "field1.dat", (64 << 20) + 1);
+    Open(Path(), Access::Read);
+    EXPECT_THAT([] { Read("stat.dat"); }, ThrowsMessage<RunTimeFailure>(HasSubstr("stat.dat: 1099511627776 bytes")));
+    EXPECT_THAT([] { Read("field1.dat"); }, ThrowsMessage<RunTimeFailure>(HasSubstr("field1.dat: 67108865 bytes")));
+}
+
+}  // namespace veraqua::files

@@ -1,0 +1,107 @@
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "core/failure.h"
+#include "tests/core/failing_disks.h"
+#include "tests/core/files_fixture.h"
+
+namespace veraqua::files {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+TEST_F(FilesTest, AReportReplacesTheOldOneWhollyOrNotAtAll) {
+    const std::string report = Path() + "report.txt";
+    for (int n = 1;; ++n) {
+        SCOPED_TRACE(n);
+        const Contents before{{"report.txt", "of yesterday"}, {".veraqua-1-0", "left by a dead program"}};
+        Place(before);
+        FailingDisk disk(n, ENOSPC, false);
+        InstallDisk(&disk);
+        std::string text;
+        try {
+            WriteOutside(report, "of today");
+        } catch (const RunTimeFailure& failure) {
+            text = failure.what();
+        }
+        UseQuickDisk();
+        Contents expected = before;
+        if (text.empty()) expected["report.txt"] = "of today";
+        EXPECT_EQ(OnDisk(), expected);
+        if (text.empty()) {
+            EXPECT_EQ(n, 5);  // opened, written, flushed, renamed
+            break;
+        }
+        EXPECT_THAT(text, HasSubstr("can't be written: No space left on device"));
+    }
+}
+
+TEST_F(FilesTest, AReportThatDiedHalfWrittenIsNoHindrance) {
+    for (int n = 2; n <= 4; ++n) {
+        DyingDisk disk(Path());
+        disk.RefuseCall(n);
+        InstallDisk(&disk);
+        EXPECT_THROW(WriteOutside(Path() + "report.txt", "of today"), Died);
+        UseQuickDisk();
+    }
+    EXPECT_FALSE(fs::exists(Path() + "report.txt"));
+    WriteOutside(Path() + "report.txt", "of today");
+    EXPECT_EQ(OnDisk().at("report.txt"), "of today");
+}
+
+TEST_F(FilesTest, AReportGoesWhereItsNamePoints) {
+    Place({{"report.txt", "old"}});
+    fs::permissions(Path() + "report.txt", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("report.txt", Path() + "latest.txt");
+    WriteOutside(Path() + "latest.txt", "new");
+    EXPECT_TRUE(fs::is_symlink(Path() + "latest.txt"));
+    EXPECT_EQ(OnDisk().at("report.txt"), "new");
+    EXPECT_EQ(fs::status(Path() + "report.txt").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(OnDisk().size(), 2);
+
+    fs::create_directory(Path() + "reports");
+    ASSERT_EQ(mkfifo((Path() + "pipe").c_str(), 0600), 0);
+    for (const std::string name : {"reports", "pipe"})
+        EXPECT_THAT([&] { WriteOutside(Path() + name, "x"); },
+                    ThrowsMessage<RunTimeFailure>(HasSubstr(name + " is not a file")));
+    EXPECT_THAT([&] { WriteOutside(Path() + "missing/report.txt", "x"); },
+                ThrowsMessage<RunTimeFailure>(HasSubstr("report.txt can't be written: No such file or directory")));
+}
+
+TEST_F(FilesTest, AFileThatTheUserNamesIsReadUpToALimit) {
+    Place({{"network.txt", "12345"}});
+    EXPECT_EQ(ReadOutside(Path() + "network.txt", 5), "12345");
+    EXPECT_THAT([&] { ReadOutside(Path() + "network.txt", 4); },
+                ThrowsMessage<RunTimeFailure>(HasSubstr("network.txt: 5 bytes are too many")));
+    EXPECT_THAT([&] { ReadOutside(Path() + "missing.txt", 5); },
+                ThrowsMessage<RunTimeFailure>(HasSubstr("missing.txt can't be read: No such file or directory")));
+    ASSERT_EQ(mkfifo((Path() + "pipe").c_str(), 0600), 0);
+    EXPECT_THROW(ReadOutside(Path() + "pipe", 5), RunTimeFailure);  // and doesn't wait for a writer
+}
+
+TEST_F(FilesTest, DirectoriesAreMadeWithAllAboveThem) {
+    const std::string home = Path() + "share//veraqua/";
+    EXPECT_FALSE(DirectoryExists(home));
+    MakeDirectory(home);
+    MakeDirectory(home);
+    EXPECT_TRUE(DirectoryExists(Path() + "share/veraqua"));
+    Open(home, Access::Write);
+    EXPECT_EQ(DirectoryPath(), home);
+    Close();
+    EXPECT_EQ(DirectoryPath(), "");
+    Open(Path() + "share/veraqua", Access::Read);
+    EXPECT_EQ(DirectoryPath(), Path() + "share/veraqua/");
+    Close();
+
+    Place({{"share", "a file"}});
+    EXPECT_THAT([&] { MakeDirectory(home); }, ThrowsMessage<RunTimeFailure>(HasSubstr(Path() + "share can't be made")));
+    EXPECT_THAT([&] { Open(home, Access::Read); }, ThrowsMessage<RunTimeFailure>(HasSubstr("can't be read")));
+}
+
+}  // namespace veraqua::files
