@@ -1,0 +1,73 @@
+#include "shell/first_start.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/directory.h"
+#include "core/files.h"
+#include "core/state.h"
+#include "data/embedded.h"
+#include "shell/sample_season.h"
+#include "shell/sample_weather.h"
+
+namespace veraqua {
+
+namespace {
+
+/// Puts the state back as it was: what is made on the way concerns the files alone.
+class StateRestorer {
+  public:
+    StateRestorer() = default;
+    ~StateRestorer() { State = before_; }
+    StateRestorer(const StateRestorer&) = delete;
+    StateRestorer& operator=(const StateRestorer&) = delete;
+
+  private:
+    ApplicationState before_ = State;
+};
+
+void WriteShippedFiles(bool sample) {
+    for (const std::string_view name : EmbeddedNames()) {
+        const bool isInFolder = name.find('/') != std::string_view::npos;
+        if (isInFolder || files::Exists(name)) continue;
+        const std::string_view bytes = EmbeddedFile(name);
+        files::Write(name, sample && name == "weathdef.dat" ? StationsOfSample(bytes) : std::string(bytes));
+    }
+}
+
+bool FillWithSample(Ask& ask) {
+    if (State.FieldCount > 0) {
+        ask.Tell("There are fields in this directory. The sample season needs one without fields.");
+        return false;
+    }
+    return MakeSampleSeason(ask);
+}
+
+std::vector<std::string> NewNames(const std::vector<std::string>& before) {
+    const std::vector<std::string> now = files::Names();
+    std::vector<std::string> made;
+    std::ranges::set_difference(now, before, std::back_inserter(made));
+    return made;
+}
+
+InitOutcome MakeFiles(Ask& ask, bool sample) {
+    const std::vector<std::string> before = files::Names();
+    const StateRestorer restorer;
+    files::ChangeSet changes;
+    WriteShippedFiles(sample);
+    StartUp(ask);
+    if (sample && !FillWithSample(ask)) return {true, {}};
+    InitOutcome outcome{false, NewNames(before)};
+    changes.Commit();
+    return outcome;
+}
+
+}  // namespace
+
+InitOutcome MakeDataDirectory(Ask& ask, bool sample) {
+    InitOutcome outcome = MakeFiles(ask, sample);
+    if (!outcome.Refused) StartUp(ask);
+    return outcome;
+}
+
+}  // namespace veraqua

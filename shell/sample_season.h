@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/ask.h"
+
+namespace veraqua {
+
+/// Makes the sample season of today in the data directory, which has no fields yet: the fields that are in the ground,
+/// with their weather, rain, irrigations and cuttings, brought up to date, and the backup of the one that was harvested
+/// last. The same day gives the same bytes. False if weathdef.dat lacks a region of the sample; the user has been told.
+/// RunTimeFailure if crop.dat lacks a crop of the sample.
+bool MakeSampleSeason(Ask& ask);
+
+}  // namespace veraqua
