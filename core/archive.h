@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -60,15 +61,17 @@ class Reader {
         return bytes;
     }
 
+    /// Bytes in the order of the file as one number: the compiler makes a single load of it.
+    template <class Bits, std::size_t... Place>
+    static Bits BitsOf(std::string_view bytes, std::index_sequence<Place...>) {
+        return static_cast<Bits>(((Bits{static_cast<unsigned char>(bytes[Place])} << (8 * Place)) | ...));
+    }
+
     template <StoredScalar T>
     void Take(T& value) {
         using Bits = std::conditional_t<sizeof(T) == 2, std::uint16_t, std::uint32_t>;
         lastNumber_ = position_;
-        const std::string_view bytes = Next(sizeof(T));
-        Bits bits = 0;
-        for (std::size_t i = sizeof(T); i-- > 0;)
-            bits = static_cast<Bits>((bits << 8) | static_cast<unsigned char>(bytes[i]));
-        value = std::bit_cast<T>(bits);
+        value = std::bit_cast<T>(BitsOf<Bits>(Next(sizeof(T)), std::make_index_sequence<sizeof(T)>()));
         if constexpr (std::same_as<T, float>) {
             if (!std::isfinite(value)) Refuse("a number that is not finite");
         }

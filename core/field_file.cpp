@@ -50,7 +50,7 @@ class FieldFileLayout {
 
     void Lists() {
         EachList(file_.Lists, file_.IsHay, [this](auto& list) {
-            for (auto& record : list) Record(record);
+            for (auto& record : list) this->Record(record);
         });
     }
 

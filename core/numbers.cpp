@@ -75,28 +75,12 @@ std::string MaskedDigits(double value, int significantDigits, std::string_view m
 
 }  // namespace
 
-bool FitsSingle(double value) { return std::isfinite(static_cast<float>(value)); }
-
-bool FitsInteger16(double value) {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const double whole = RoundHalfEven(value);
-    return whole >= Limits::min() && whole <= Limits::max();
+void numbers_detail::RefuseSingle(double value, const char* quantity) {
+    throw RunTimeFailure(fmt::format("Overflow: {} is {}.", quantity, value));
 }
 
-float ToSingle(double value, const char* quantity) {
-    if (!FitsSingle(value)) throw RunTimeFailure(fmt::format("Overflow: {} is {}.", quantity, value));
-    return static_cast<float>(value);
-}
-
-double RoundHalfEven(double value) {
-    // The process never leaves the default rounding mode, to nearest with halves to even.
-    return std::nearbyint(value);
-}
-
-std::int16_t ToInteger16(double value, const char* quantity) {
-    if (!FitsInteger16(value))
-        throw RunTimeFailure(fmt::format("Overflow: {} is {}, outside -32768 to 32767.", quantity, value));
-    return static_cast<std::int16_t>(RoundHalfEven(value));
+void numbers_detail::RefuseInteger16(double value, const char* quantity) {
+    throw RunTimeFailure(fmt::format("Overflow: {} is {}, outside -32768 to 32767.", quantity, value));
 }
 
 double RoundedTo(double value, double perUnit) { return RoundHalfEven(value * perUnit) / perUnit; }

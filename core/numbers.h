@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,18 +10,41 @@
 /// The one place that rounds numbers, turns them into text and reads them from text.
 namespace veraqua {
 
-/// `value` as a stored single. RunTimeFailure, naming `quantity`, if it isn't finite or does not fit a single.
-float ToSingle(double value, const char* quantity);
+namespace numbers_detail {
+
+[[noreturn]] void RefuseSingle(double value, const char* quantity);
+[[noreturn]] void RefuseInteger16(double value, const char* quantity);
+
+}  // namespace numbers_detail
 
 /// Nearest whole number, halves to even.
-double RoundHalfEven(double value);
+inline double RoundHalfEven(double value) {
+    // The process never leaves the default rounding mode, to nearest with halves to even.
+    return std::nearbyint(value);
+}
+
+/// Whether `value` is finite and within the range of a single.
+inline bool FitsSingle(double value) {
+    return std::fabs(static_cast<float>(value)) <= std::numeric_limits<float>::max();
+}
+
+/// Whether `value` is within a signed 16-bit integer after rounding.
+inline bool FitsInteger16(double value) {
+    // The halves beyond the ends round to even, and so out of the range; the lower one into it.
+    return value >= -32768.5 && value < 32767.5;
+}
+
+/// `value` as a stored single. RunTimeFailure, naming `quantity`, if it isn't finite or does not fit a single.
+inline float ToSingle(double value, const char* quantity) {
+    if (!FitsSingle(value)) numbers_detail::RefuseSingle(value, quantity);
+    return static_cast<float>(value);
+}
 
 /// Nearest signed 16-bit integer, halves to even. RunTimeFailure, naming `quantity`, if it doesn't fit or isn't finite.
-std::int16_t ToInteger16(double value, const char* quantity);
-
-/// Whether `value` is finite and within the range of a single, or after rounding within a signed 16-bit integer.
-bool FitsSingle(double value);
-bool FitsInteger16(double value);
+inline std::int16_t ToInteger16(double value, const char* quantity) {
+    if (!FitsInteger16(value)) numbers_detail::RefuseInteger16(value, quantity);
+    return static_cast<std::int16_t>(RoundHalfEven(value));
+}
 
 /// `value` in hundredths (`perUnit` 100), tenths (10) and so on: the nearest, halves to even, as a plain number again.
 double RoundedTo(double value, double perUnit);

@@ -26,6 +26,14 @@ class FixedText {
   public:
     constexpr FixedText() { bytes_.fill(' '); }
 
+    /// From ASCII text no longer than `Width`.
+    static constexpr FixedText FromAscii(std::string_view ascii) {
+        FixedText text;
+        ascii.copy(text.bytes_.data(), Width);
+        return text;
+    }
+
+    /// Takes UTF-8 text: longer text is cut, shorter padded, and text that Latin-1 lacks becomes "?".
     FixedText& operator=(std::string_view utf8) {
         std::string bytes = Latin1FromUtf8(utf8).value_or(std::string(utf8.size(), '?'));
         bytes.resize(Width, ' ');

@@ -103,7 +103,8 @@ ZoneGrid ContentGrid(const HeaderCommon& header, const LayerBounds& bounds) {
 int ZoneAt(float depth, float interval) {
     const double zone = std::floor(static_cast<double>(depth) / interval);
     if (!FitsInteger16(zone))
-        throw RunTimeFailure(fmt::format("The soil zone at a depth of {} m in zones of {} m.", depth, interval));
+        throw RunTimeFailure(
+            fmt::format("There is no soil zone at a depth of {} m in zones of {} m.", depth, interval));
     return static_cast<int>(zone);
 }
 

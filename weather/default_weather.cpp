@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::string_view DefaultWeatherFile = "weathdef.dat";
 constexpr int DayNightRow = 5;
+constexpr auto StoredDefaultSource = decltype(WeatherDay::Source)::FromAscii(DefaultSource);
+constexpr std::size_t CodeWidth = 2;  ///< of a station's code
 
 struct Region {
     std::string_view Name;
@@ -70,7 +72,7 @@ WeatherDay DefaultDay(const WeatherCoefficients& coefficients, int dayOfYear) {
     day.DayNightRatio = Sum(coefficients[DayNightRow], harmonics);
     day.SolarRadiation = Sum(coefficients[6], harmonics);
     day.ReferenceET = Sum(coefficients[7], harmonics);
-    day.Source = DefaultSource;
+    day.Source = StoredDefaultSource;
     return day;
 }
 
@@ -79,6 +81,7 @@ float DefaultDayNightRatio(const WeatherCoefficients& coefficients, int dayOfYea
 }
 
 std::string_view RegionOfStation(std::string_view stationCode) {
+    if (stationCode.size() != CodeWidth) return {};
     for (const Region& region : Regions)
         if (region.Stations.find(stationCode) != std::string_view::npos) return region.Name;
     return {};
