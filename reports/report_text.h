@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/calendar.h"
+
+/// Wording that the reports share.
+namespace veraqua {
+
+/// "mm-dd-yy", or `none` where the day isn't known.
+std::string ReportDate(JulianValue day, std::string_view none = {});
+
+/// An amount of irrigation as the grower sets it: "1.69 inches", in hundredths, or "43 mm".
+std::string IrrigationAmount(int millimetres, bool english);
+
+}  // namespace veraqua
