@@ -43,7 +43,7 @@ std::optional<std::string> Latin1FromUtf8(std::string_view text) {
             // Only the two-byte forms led by C2 and C3 stand for the characters up to 255.
             const auto next = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : 0U;
             if ((lead != 0xC2 && lead != 0xC3) || (next & 0xC0) != 0x80) return std::nullopt;
-            latin1 += static_cast<char>(((lead & 0x03) << 6) | (next & 0x3F));
+            latin1 += static_cast<char>(((lead & 0x03U) << 6) | (next & 0x3FU));
             ++i;
         }
     }
