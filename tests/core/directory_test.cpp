@@ -1,11 +1,15 @@
 #include "core/directory.h"
 
+#include <cerrno>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 
 #include "core/field_file.h"
 #include "core/state.h"
+#include "tests/core/failing_disks.h"
 #include "tests/support/builders.h"
 #include "tests/support/bytes.h"
 #include "tests/support/data_directory.h"
@@ -165,7 +169,7 @@ TEST_F(FieldDirectory, ImpossibleFilesAreFailuresAndTheStateStays) {
         {Patched(TwoStatRows(), 41 + 35, negative), TwoUpdates(), "stat.dat: row 2"},
         {TwoStatRows(), Patched(TwoUpdates(), 4, negative), "updates.dat: row 2"},
         {TwoStatRows(), TwoUpdates().substr(0, 7), "updates.dat: 7 bytes"},
-        {std::string(101 * 41, '\0'), std::string(404, '\0'), "stat.dat: 101 rows"},
+        {std::string(std::size_t{101} * 41, '\0'), std::string(404, '\0'), "stat.dat: 101 rows"},
     };
     for (const auto& c : cases) {
         Directory.Put("stat.dat", c.Stat);
@@ -217,6 +221,32 @@ TEST_F(FieldDirectory, ASavedRowNeedsBothFiles) {
     User.Told.clear();
     EXPECT_THROW(SaveFieldRow(User, 1), ProgramEnded);
     EXPECT_EQ(User.Texts(), std::vector<std::string>{"Need to create stat.dat - exiting system."});
+}
+
+/// A row and its depletion date are true together, wherever the disk gives up: else the next start would find one file
+/// shorter than the other.
+TEST_F(FieldDirectory, ASavedRowIsInBothFilesOrInNone) {
+    bool refused = true;
+    for (int n = 1; refused; ++n) {
+        PutTwoRows();
+        Directory.Reopen();
+        LoadFieldDirectory();
+        State.Stat[3] = FirstRow();
+        State.Updates[3] = 730425;
+        files::FailingDisk disk(n, ENOSPC, true);
+        files::InstallDisk(&disk);
+        try {
+            SaveFieldRow(User, 3);
+            refused = false;
+        } catch (const RunTimeFailure&) {}
+        files::InstallDisk(nullptr);
+        Directory.Reopen();
+        LoadFieldDirectory();
+        const bool isNew = State.Stat[3] == FirstRow();
+        EXPECT_EQ(Directory.Raw("stat.dat"), TwoStatRows() + (isNew ? TwoStatRows().substr(0, 41) : "")) << n;
+        EXPECT_EQ(Directory.Raw("updates.dat"), TwoUpdates() + (isNew ? Hex("39 25 0B 00") : "")) << n;
+        EXPECT_TRUE(isNew || refused) << n;
+    }
 }
 
 TEST_F(FieldDirectory, ThereIsNoRow101) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,8 @@ FieldFile After(FieldFile file, const FieldChanges& changes) {
 }
 
 std::vector<JulianValue> DaysOf(const std::vector<EventRecord>& list) {
-    std::vector<JulianValue> days;
-    for (const EventRecord& record : list) days.push_back(record.Day);
+    std::vector<JulianValue> days(list.size());
+    std::transform(list.begin(), list.end(), days.begin(), [](const EventRecord& record) { return record.Day; });
     return days;
 }
 
