@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::int16_t CriticalMad = 80;  ///< percent
 
-// Entries are those of a grower who thinks in inches and feet, as the entry forms store them.
+// Depths are stored as the entry forms store what is typed in inches; the form of hay shows its roots in tenths.
 float FromInches(double inches) { return ToSingle(inches / 12 * 0.3048, "a depth"); }
 
 float AsTypedInInches(float metres) { return FromInches(RoundedTo(metres / 0.3048 * 12, 10)); }
@@ -55,7 +55,7 @@ HeaderCommon& FillHeader(const CropSeason& season) {
 }
 
 /// The layer of `soil` at a depth of `inches`; the last one goes on downwards.
-std::size_t LayerAt(const SampleSoil& soil, int inches) {
+std::size_t IndexOfLayer(const SampleSoil& soil, int inches) {
     std::size_t layer = 0;
     for (int bottom = soil.Layers[0].Inches; bottom <= inches && layer + 1 < soil.Layers.size();)
         bottom += soil.Layers[++layer].Inches;
@@ -75,13 +75,20 @@ SoilProfile SoilOf(const SamplePlanting& planting, HeaderCommon& header) {
     }
     header.CapacityTop = header.ContentTop = static_cast<std::int16_t>(top);
     for (std::size_t zone = 0; zone <= top; ++zone) {
-        const std::size_t layer = soil.ZoneInches > 0 ? LayerAt(soil, static_cast<int>(zone) * soil.ZoneInches) : zone;
+        const std::size_t layer =
+            soil.ZoneInches > 0 ? IndexOfLayer(soil, static_cast<int>(zone) * soil.ZoneInches) : zone;
         const int capacity = soil.Layers[layer].Capacity;
         const int share = zone == 0 ? planting.WaterAbove : planting.WaterBelow;
         profile.Capacity[zone] = static_cast<std::int16_t>(capacity);
         profile.Content[zone] = ToInteger16(capacity * share / 100.0, "the water content");
     }
     return profile;
+}
+
+/// Takes the weather of the station in work from the year of `plantDay` through the day before `today`.
+void TakeWeather(Ask& ask, JulianValue plantDay, JulianValue today) {
+    FindCoverage(ask, YearOf(plantDay));
+    State.WeatherLastJulian = std::min(State.WeatherLastJulian, today - 1);
 }
 
 /// A field of the sample while it is being made.
@@ -102,8 +109,7 @@ std::optional<SampleField> WorkedField(Ask& ask, const CropSeason& season, Julia
     CreateField(ask, SoilOf(planting, header));
 
     if (!ImportSampleWeather(ask, YearOf(season.PlantDay))) return std::nullopt;
-    FindCoverage(ask, YearOf(season.PlantDay));
-    State.WeatherLastJulian = std::min(State.WeatherLastJulian, today - 1);
+    TakeWeather(ask, season.PlantDay, today);
     FieldFile file = LoadFieldFile(row);
     file.Lists.Rain = SampleRain(State.StationCode, season.PlantDay + 1, today - 1);
     const SeasonStart start{season.PlantDay, false, today, State.Stat[row]};
@@ -112,29 +118,31 @@ std::optional<SampleField> WorkedField(Ask& ask, const CropSeason& season, Julia
     return field;
 }
 
-/// Writes what the grower did and runs the season as of `today`.
-void BringUpToDate(Ask& ask, const SampleField& field, JulianValue today) {
+/// Writes what the grower did and runs the season as of `today`. False if the weather that was there before won't do;
+/// the user has been told.
+bool BringUpToDate(Ask& ask, const SampleField& field, JulianValue today) {
     StoreFieldFile(field.Row, field.Grower.File());
     SelectField(ask, field.Row);
-    FindCoverage(ask, YearOf(State.Header().PlantDay));
-    State.WeatherLastJulian = std::min(State.WeatherLastJulian, today - 1);
+    TakeWeather(ask, State.Header().PlantDay, today);
     const JulianValue realToday = std::exchange(State.TodayJulian, today);
-    UpdateField(ask);
+    const RunOutcome outcome = UpdateField(ask);
     State.TodayJulian = realToday;
+    return outcome == RunOutcome::Done;
 }
 
 /// One grower comes too late, unless a field stands over its MAD anyway.
 void NeglectOne(std::deque<SampleField>& fields) {
-    if (std::ranges::any_of(fields, [](const SampleField& field) { return field.Grower.IsOverMad(); })) return;
-    std::ranges::any_of(fields, [](SampleField& field) { return field.Grower.Neglect(); });
+    for (const SampleField& field : fields)
+        if (field.Grower.IsOverMad()) return;
+    for (SampleField& field : fields)
+        if (field.Grower.Neglect()) return;
 }
 
 /// The field that was harvested last: its file is a backup, its row is free again.
 bool MakeHarvested(Ask& ask) {
     const CropSeason season = LastHarvest(State.TodayJulian);
     const std::optional<SampleField> field = WorkedField(ask, season, season.HarvestDay);
-    if (!field) return false;
-    BringUpToDate(ask, *field, season.HarvestDay);
+    if (!field || !BringUpToDate(ask, *field, season.HarvestDay)) return false;
     files::Rename(FieldFileName(field->Row), FreeBackupName(State.Header().FieldId, season.HarvestDay));
     State.Stat[field->Row] = {};
     SaveFieldRow(ask, field->Row);
@@ -152,8 +160,8 @@ bool MakeSampleSeason(Ask& ask) {
         fields.push_back(std::move(*field));
     }
     NeglectOne(fields);
-    for (const SampleField& field : fields) BringUpToDate(ask, field, State.TodayJulian);
-    return true;
+    return std::ranges::all_of(
+        fields, [&ask](const SampleField& field) { return BringUpToDate(ask, field, State.TodayJulian); });
 }
 
 }  // namespace veraqua
