@@ -28,19 +28,37 @@ UpdateStatus StatusOf(RunOutcome outcome) {
     return outcome == RunOutcome::Done ? UpdateStatus::Done : UpdateStatus::Refused;
 }
 
-/// Makes the fields' changes true; where the disk refuses them, the directory is as on disk again.
-void CommitOrReload(files::ChangeSet& changes) {
+/// The field and the station in work before a walk over many fields.
+struct InWork {
+    std::int16_t Field = State.CurrentField;
+    std::string StationCode = State.StationCode;
+    std::string StationName = State.StationName;
+
+    /// Takes them up again, the field as the walk has left its file.
+    void Return(Ask& ask) const {
+        State.CurrentField = 0;
+        if (Field > 0) SelectField(ask, Field);
+        State.StationCode = StationCode;
+        State.StationName = StationName;
+    }
+};
+
+/// Ends a walk and makes the fields' changes true; where the disk refuses them, the directory is as on disk again.
+void EndWalk(Ask& ask, files::ChangeSet& changes, const InWork& before) {
     try {
         changes.Commit();
     } catch (const RunTimeFailure&) {
-        LoadFieldDirectory();
+        StartDirectory();
+        before.Return(ask);
         throw;
     }
+    before.Return(ask);
 }
 
 }  // namespace
 
 std::vector<UpdateStatus> UpdateRows(Ask& ask, const std::vector<int>& rows) {
+    const InWork before;
     files::ChangeSet changes;
     std::vector<UpdateStatus> statuses;
     for (const int row : rows) {
@@ -53,14 +71,12 @@ std::vector<UpdateStatus> UpdateRows(Ask& ask, const std::vector<int>& rows) {
         }));
     }
     ask.Progress("Updating fields", rows.size(), rows.size());
-    CommitOrReload(changes);
+    EndWalk(ask, changes, before);
     return statuses;
 }
 
 StationCatchUp UpdateFieldsForStation(Ask& ask, std::string_view what) {
-    const std::string code = State.StationCode;
-    const std::string name = State.StationName;
-    const std::int16_t fieldInWork = State.CurrentField;
+    const InWork before;
     const std::vector<int> rows = RowsInUse();
     StationCatchUp result;
 
@@ -70,7 +86,7 @@ StationCatchUp UpdateFieldsForStation(Ask& ask, std::string_view what) {
         const int row = rows[i];
         const UpdateStatus status = Guarded(ask, [&] {
             if (!SelectField(ask, row)) return UpdateStatus::Refused;
-            if (State.StationCode != code) return UpdateStatus::Done;
+            if (State.StationCode != before.StationCode) return UpdateStatus::Done;
             ++result.Fields;
             const bool behind = State.Stat[row].LastDay < State.TodayJulian - 1;
             return behind ? StatusOf(UpdateField(ask)) : UpdateStatus::Done;
@@ -78,14 +94,7 @@ StationCatchUp UpdateFieldsForStation(Ask& ask, std::string_view what) {
         result.Worst = std::max(result.Worst, status);
     }
     ask.Progress(what, rows.size(), rows.size());
-    CommitOrReload(changes);
-
-    if (fieldInWork > 0)
-        SelectField(ask, fieldInWork);
-    else
-        State.CurrentField = 0;
-    State.StationCode = code;
-    State.StationName = name;
+    EndWalk(ask, changes, before);
     return result;
 }
 

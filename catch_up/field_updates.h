@@ -15,8 +15,8 @@ enum class UpdateStatus {
 };
 
 /// Runs the seasons of `rows` on the weather that is there, as far as each station's reaches from the year of the
-/// field's last day on. A field that fails doesn't keep the others from their run. RunTimeFailure if the disk refuses
-/// the whole.
+/// field's last day on. A field that fails doesn't keep the others from their run. The field in work stays.
+/// RunTimeFailure if the disk refuses the whole; the directory in memory is then as on disk.
 std::vector<UpdateStatus> UpdateRows(Ask& ask, const std::vector<int>& rows);
 
 struct StationCatchUp {

@@ -69,6 +69,12 @@ bool AppendRange(Ask& ask, int year) {
 
 }  // namespace
 
+bool StationIsChosen(Ask& ask) {
+    if (State.StationCode != NoStation) return true;
+    ask.Tell("Please select your KESTA weather station first.", "Missing KESTA Station");
+    return false;
+}
+
 bool DownloadWeather(Ask& ask, const std::function<void(std::string_view)>& state) {
     const std::string name = State.StationCode + State.WeatherYearSuffix + "rd.txt";
     const HttpReply reply = ask.Get(State.BaseUrl + name, state);
@@ -125,10 +131,7 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear) {
 }
 
 CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void(std::string_view)>& state) {
-    if (State.StationCode == "00") {
-        ask.Tell("Please select your KESTA weather station first.", "Missing KESTA Station");
-        return {CommandEnding::StationMissing, {}, {}, {}, {}};
-    }
+    if (!StationIsChosen(ask)) return {CommandEnding::StationMissing, {}, {}, {}, {}};
     if (!ChooseRange(ask, command)) return {CommandEnding::Declined, {}, {}, {}, {}};
     if (!DownloadWeather(ask, state)) {
         TellDownloadFailed(ask);

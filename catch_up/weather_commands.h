@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "catch_up/field_updates.h"
 #include "core/ask.h"
@@ -31,6 +32,12 @@ struct CommandReport {
     std::optional<StationCatchUp> CatchUp;
     WeatherDay LastDay;  ///< the last day of the text, for display
 };
+
+/// `StationCode` while no station is chosen.
+constexpr std::string_view NoStation = "00";
+
+/// False, after the user has been told, while no station is chosen.
+bool StationIsChosen(Ask& ask);
 
 /// Fetches the text of the station in work and the year of `WeatherYearSuffix`, keeps it under its remote name and as
 /// the year's text to import. `state` is told how it goes. False, with `DownloadFailed` set, after the user has been

@@ -1,10 +1,12 @@
 #include "cli/app.h"
 
+#include <algorithm>
 #include <functional>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
+#include "core/numbers.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -31,6 +33,12 @@ struct Typed {
 
 constexpr int FirstYear = 1900;
 constexpr int LastYear = 9999;
+
+/// What is wrong with a typed number; empty if nothing is.
+std::string FaultOfNumber(const std::string& text) {
+    const std::optional<double> value = Numeric(text);
+    return value && FitsSingle(*value) ? "" : "\"" + text + "\" is no number";
+}
 
 class ProgramOptions {
   public:
@@ -170,7 +178,7 @@ class ProgramOptions {
         CLI::App* eto = Add(weather, "eto", "compute the reference evapotranspiration of one day",
                             [this](Session& session) { return RunWeatherEto(session, typed_.Day); });
         const auto take = [eto](const std::string& name, float& value, const std::string& what) {
-            eto->add_option(name, value, what)->required()->type_name("");
+            eto->add_option(name, value, what)->required()->check(&FaultOfNumber)->type_name("");
         };
         take("--tmax", day.TempMax, "maximum temperature, degrees C");
         take("--tmin", day.TempMin, "minimum temperature, degrees C");
@@ -207,7 +215,9 @@ int RunProgram(int argumentCount, const char* const* arguments) {
         return options.App().exit(error) == 0 ? ExitDone : ExitUsage;
     }
     try {
-        return session.Prepare() ? options.Chosen()(session) : ExitRefused;
+        if (!session.Prepare()) return ExitRefused;
+        const int status = options.Chosen()(session);
+        return session.OutputLost() ? std::max<int>(status, ExitRefused) : status;
     } catch (const RunTimeFailure& failure) {
         session.Outside.Tell(failure.what(), ProgramTitle, Icon::Stop);
         return ExitFailure;

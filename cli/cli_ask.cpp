@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 
@@ -17,6 +18,9 @@ namespace {
 
 /// Work shorter than this shows no progress.
 constexpr std::chrono::milliseconds Patience{300};
+
+/// Onto stderr. Where that is closed or full there is nobody to be told, and the work goes on.
+void Say(const std::string& text) { static_cast<void>(std::fputs(text.c_str(), stderr)); }
 
 std::string OneLine(std::string_view text) {
     std::string line(text);
@@ -35,12 +39,12 @@ JulianValue CliAsk::ClockDate() {
 
 void CliAsk::Tell(std::string_view text, std::string_view title, Icon) {
     ClearLine();
-    fmt::print(stderr, "{}: {}\n", title, OneLine(text));
+    Say(fmt::format("{}: {}\n", title, OneLine(text)));
 }
 
 bool CliAsk::YesNo(std::string_view text, std::string_view title, Icon, bool) {
     ClearLine();
-    fmt::print(stderr, "{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no");
+    Say(fmt::format("{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no"));
     return answer_;
 }
 
@@ -57,13 +61,13 @@ void CliAsk::Progress(std::string_view what, std::size_t done, std::size_t total
 
 void CliAsk::ShowState(std::string_view text) {
     if (!progressAllowed_ || std::chrono::steady_clock::now() - begun_ < Patience || isatty(STDERR_FILENO) == 0) return;
-    fmt::print(stderr, "\r\033[K{}", text);
+    Say(fmt::format("\r\033[K{}", text));
     std::fflush(stderr);
     lineShown_ = true;
 }
 
 void CliAsk::ClearLine() {
-    if (lineShown_) fmt::print(stderr, "\r\033[K");
+    if (lineShown_) Say("\r\033[K");
     lineShown_ = false;
 }
 

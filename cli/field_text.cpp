@@ -139,11 +139,10 @@ std::string TextOfDays(const FieldFile& file) {
     JulianValue day = file.Header().PlantDay;
     bool first = true;
     for (const DayRecord& row : file.Days) {
-        // The first row of a new hay field holds the root depth.
-        const bool isDepth = !file.IsHay || first;
-        const auto third = static_cast<double>(row.RootDepthOrKc);
+        // Hay has no Kc yet on its first day: the row holds the root depth there.
+        const auto third = static_cast<double>(file.IsHay && first ? 0 : row.RootDepthOrKc);
         table.Add({JulianToShortText(day++), Water(static_cast<double>(row.Available)),
-                   Masked(DegreeDays(row.GddSum), "0.0"), isDepth ? Depth(third) : Masked(third, "0.00"),
+                   Masked(DegreeDays(row.GddSum), "0.0"), file.IsHay ? Masked(third, "0.00") : Depth(third),
                    Water(static_cast<double>(row.EtrSum)), fmt::format("{}", row.DaysSinceWet)});
         first = false;
     }

@@ -4,12 +4,13 @@
 
 #include <curl/curl.h>
 
+#include "weather/network_text.h"
+
 namespace veraqua {
 
 namespace {
 
 constexpr long SilenceLimitSeconds = 30;
-constexpr std::size_t LargestText = std::size_t{4} << 20;
 constexpr long MostRedirects = 10;
 constexpr long HttpOk = 200;
 
@@ -21,7 +22,7 @@ struct Received {
 
 std::size_t TakeBody(const char* data, std::size_t size, std::size_t count, void* user) {
     auto& received = *static_cast<Received*>(user);
-    if (received.Body.size() + size * count > LargestText) {
+    if (received.Body.size() + size * count > LargestNetworkText) {
         received.TooLarge = true;
         return 0;
     }
@@ -40,7 +41,7 @@ std::size_t TakeHeader(const char* data, std::size_t size, std::size_t count, vo
 std::string ReasonOf(const std::string& statusLine) {
     const std::size_t code = statusLine.find(' ');
     const std::size_t reason = code == std::string::npos ? code : statusLine.find(' ', code + 1);
-    return reason == std::string::npos ? "the server refused" : statusLine.substr(reason + 1);
+    return reason >= statusLine.size() - 1 ? "the server refused" : statusLine.substr(reason + 1);
 }
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;

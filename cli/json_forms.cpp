@@ -9,6 +9,14 @@ namespace veraqua {
 
 namespace {
 
+/// Without the blanks that fill it up; one in front belongs to it.
+template <std::size_t Width>
+std::string NameText(const FixedText<Width>& name) {
+    std::string text = name.Whole();
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
 /// The first zones of a profile, up to the header's upper index.
 Json ZonesJson(const Zones& zones, int top) {
     Json array = Json::array();
@@ -100,7 +108,8 @@ std::string DumpJson(const Json& json) {
     if (json.is_object()) return DumpObject(json);
     if (json.is_array()) return DumpArray(json);
     if (json.is_number_float()) return Shortest(json.get<float>());
-    return json.dump();
+    // A path on the command line may hold anything.
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
 Json JsonOf(JulianValue day) {
@@ -112,8 +121,8 @@ Json JsonOf(JulianValue day) {
 Json JsonOfRow(int row) {
     const StatRecord& stat = State.Stat[row];
     return {{"row", row},
-            {"id", stat.FieldId.Text()},
-            {"crop", stat.CropName.Text()},
+            {"id", NameText(stat.FieldId)},
+            {"crop", NameText(stat.CropName)},
             {"hay", stat.CropName.First() == HayMark},
             {"last_day", JsonOf(stat.LastDay)},
             {"depletion", stat.Depletion},
@@ -140,14 +149,18 @@ Json JsonOfField(int row, const FieldFile& file) {
 
 Json JsonOfDays(const FieldFile& file) {
     Json array = Json::array();
-    JulianValue day = file.Header().PlantDay;
-    for (const DayRecord& row : file.Days)
+    const JulianValue planting = file.Header().PlantDay;
+    JulianValue day = planting;
+    for (const DayRecord& row : file.Days) {
+        // Hay has no Kc yet on its first day: the row holds the root depth there.
+        const float third = file.IsHay && day == planting ? 0 : row.RootDepthOrKc;
         array.push_back({{"day", JsonOf(day++)},
                          {"available", row.Available},
                          {"gdd_sum", row.GddSum},
-                         {file.IsHay ? "kc" : "root_depth", row.RootDepthOrKc},
+                         {file.IsHay ? "kc" : "root_depth", third},
                          {"etr_sum", row.EtrSum},
                          {"days_since_wet", row.DaysSinceWet}});
+    }
     return array;
 }
 

@@ -1,6 +1,9 @@
 #include "cli/session.h"
 
+#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
+#include <system_error>
 
 #include <fmt/format.h>
 
@@ -32,6 +35,15 @@ std::string WithSlash(std::string url) {
     return url;
 }
 
+/// Looks without making anything, a lock neither: what was typed may be any directory.
+bool IsDataDirectory(const std::string& path) {
+    if (!files::DirectoryExists(path)) return false;
+    files::Open(path, files::Access::Read);
+    const bool hasMarker = files::Exists(Marker);
+    files::Close();
+    return hasMarker;
+}
+
 /// The first line of network.txt, empty where there is none.
 std::string NetworkFromFile() {
     const auto bytes = files::Read(NetworkFile);
@@ -55,13 +67,10 @@ bool Session::OpenData(files::Access access) {
     std::vector<std::string> candidates{Options.DataDirectory};
     if (Options.DataDirectory.empty()) candidates = {DataHome() + "veraqua", DataHome() + "Veraqua"};
     for (const std::string& path : candidates) {
-        if (!files::DirectoryExists(path)) continue;
+        if (!IsDataDirectory(path)) continue;
         files::Open(path, access);
-        if (files::Exists(Marker)) {
-            StartSystem();
-            return true;
-        }
-        files::Close();
+        StartSystem();
+        return true;
     }
     Outside.Tell(fmt::format("There is no data directory (one with {}) at {}. \"veraqua-cli init\" makes one.", Marker,
                              fmt::join(candidates, " or ")));
@@ -87,8 +96,11 @@ std::optional<JulianValue> Session::DateFrom(std::string text) {
     return day == 0 ? std::nullopt : std::optional(day);
 }
 
-void Session::Print(const Json& json, const std::string& text) const {
-    fmt::print("{}", JsonWanted() ? DumpJson(json) + "\n" : text);
+void Session::Print(const Json& json, const std::string& text) {
+    const std::string out = JsonWanted() ? DumpJson(json) + "\n" : text;
+    if (std::fwrite(out.data(), 1, out.size(), stdout) == out.size() && std::fflush(stdout) == 0) return;
+    Outside.Tell(fmt::format("The output can't be written: {}.", std::generic_category().message(errno)));
+    outputLost_ = true;
 }
 
 bool IsField(Session& session, int row) {

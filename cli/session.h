@@ -51,8 +51,14 @@ class Session {
 
     bool JsonWanted() const { return Options.JsonWanted; }
 
-    /// Prints `json` where it is wanted, else `text`.
-    void Print(const Json& json, const std::string& text) const;
+    /// Prints `json` where it is wanted, else `text`. If that fails, the user is told.
+    void Print(const Json& json, const std::string& text);
+
+    /// Whether something that was to be printed could not be.
+    bool OutputLost() const { return outputLost_; }
+
+  private:
+    bool outputLost_ = false;
 };
 
 /// Whether `row` is a field's; if not, the user is told.

@@ -12,15 +12,13 @@
 #include "weather/coverage.h"
 #include "weather/default_weather.h"
 #include "weather/import.h"
+#include "weather/network_text.h"
 #include "weather/reference_et.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {
 
 namespace {
-
-/// The largest text that an import takes: a year has some 40 KB.
-constexpr std::size_t LargestText = std::size_t{4} << 20;
 
 /// Years have two digits in the names of weather files, so a longer range would meet itself.
 constexpr int MostYears = 100;
@@ -80,7 +78,12 @@ Json JsonOfImport() {
 }  // namespace
 
 int RunWeatherDefault(Session& session, const std::string& station, const std::string& from, const std::string& to) {
-    if (!OpenStation(session, station) || !SetRange(session, from, to)) return ExitRefused;
+    if (!OpenStation(session, station)) return ExitRefused;
+    if (State.StationCode == NoStation) {
+        session.Outside.Tell("Please select your KESTA weather location first.");
+        return ExitRefused;
+    }
+    if (!SetRange(session, from, to)) return ExitRefused;
     WriteDefaultWeather();
     const int days = std::max(0, State.WeatherNeedTo - State.WeatherNeedFrom + 1);
     session.Print({{"from", JsonOf(State.WeatherNeedFrom)}, {"to", JsonOf(State.WeatherNeedTo)}, {"days", days}},
@@ -90,11 +93,13 @@ int RunWeatherDefault(Session& session, const std::string& station, const std::s
 }
 
 int RunWeatherImport(Session& session, const ImportOptions& options) {
-    if (!OpenStation(session, options.Station)) return ExitRefused;
-    files::Bytes text = files::ReadOutside(options.File, LargestText);
+    if (!OpenStation(session, options.Station) || !StationIsChosen(session.Outside)) return ExitRefused;
+    files::Bytes text = files::ReadOutside(options.File, LargestNetworkText);
+    files::ChangeSet changes;
     if (!SetImportRange(session, options)) return ExitRefused;
     files::Write(NetworkTextName(YearOf(State.WeatherNeedFrom)), std::move(text));
     const CommandReport report = ImportRange(session.Outside, WeatherCommand::Append, false);
+    changes.Commit();
     if (report.Ending == CommandEnding::Done) session.Print(JsonOfImport(), report.Status + "\n");
     return StatusOf(report);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,9 @@
 
 /// The text that the weather network serves: a file per station and year, a line per day, fields separated by commas.
 namespace veraqua {
+
+/// The largest text that is taken, bytes: a year has some 40 KB.
+constexpr std::size_t LargestNetworkText = std::size_t{4} << 20;
 
 /// Marks a missing measurement.
 constexpr float MissingMeasurement = 999;
