@@ -83,6 +83,9 @@ Bytes ReadOutside(const std::string& path, std::size_t limit);
 
 bool DirectoryExists(const std::string& path);
 
+/// Whether the two paths lead to one directory, links followed. An empty path is the working directory.
+bool SameDirectory(const std::string& a, const std::string& b);
+
 /// Makes `path` and what is missing above it.
 void MakeDirectory(const std::string& path);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <system_error>
 
 #include <fmt/format.h>
@@ -58,14 +57,6 @@ bool IsDataFileName(std::string_view name) {
                                       [&](std::string_view pattern) { return Fits(*singleBytes, pattern); });
 }
 
-/// `directory` from the root on, without "." and "..", and with a final "/". Links are not followed.
-std::filesystem::path WholePath(const std::string& directory) {
-    std::error_code unknown;
-    return (std::filesystem::absolute(directory, unknown) / "").lexically_normal();
-}
-
-bool IsDataDirectory(const std::string& directory) { return WholePath(directory) == WholePath(files::DirectoryPath()); }
-
 /// A report name at its last separator, both parts as typed.
 struct SplitName {
     std::string_view Directory;  ///< without the separator, unless it is the root; empty where none is named
@@ -96,7 +87,7 @@ bool FileNameMayBeUsed(Ask& ask, std::string_view file, const std::string& direc
         ask.Tell("Please enter a shorter file name", title);
     else if (file.find_first_of("':|") != std::string_view::npos)
         ask.Tell("An invalid special character was found in your file name.", title);
-    else if (IsDataFileName(file) && IsDataDirectory(directory))
+    else if (IsDataFileName(file) && files::SameDirectory(directory, files::DirectoryPath()))
         ask.Tell("That is a data file of Veraqua. Please choose another name.", title);
     else
         return true;
