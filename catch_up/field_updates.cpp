@@ -43,9 +43,14 @@ struct InWork {
     }
 };
 
-/// Ends a walk and makes the fields' changes true; where the disk refuses them, the directory is as on disk again.
-void EndWalk(Ask& ask, files::ChangeSet& changes, const InWork& before) {
+/// Makes what `walk` does to many fields one set of changes. Where the disk refuses them, the directory is as on disk
+/// again, which only shows once the set is gone.
+template <class Walk>
+void AsOneSet(Ask& ask, Walk walk) {
+    const InWork before;
     try {
+        files::ChangeSet changes;
+        walk();
         changes.Commit();
     } catch (const RunTimeFailure&) {
         StartDirectory();
@@ -55,46 +60,45 @@ void EndWalk(Ask& ask, files::ChangeSet& changes, const InWork& before) {
     before.Return(ask);
 }
 
+/// The season of a field on the weather that is there.
+UpdateStatus UpdateRow(Ask& ask, int row) {
+    if (!SelectField(ask, row)) return UpdateStatus::Refused;
+    if (FindCoverage(ask, YearOf(State.Stat[row].LastDay)) == Coverage::RegionMissing) return UpdateStatus::Refused;
+    return StatusOf(UpdateField(ask));
+}
+
 }  // namespace
 
 std::vector<UpdateStatus> UpdateRows(Ask& ask, const std::vector<int>& rows) {
-    const InWork before;
-    files::ChangeSet changes;
     std::vector<UpdateStatus> statuses;
-    for (const int row : rows) {
-        ask.Progress("Updating fields", statuses.size(), rows.size());
-        statuses.push_back(Guarded(ask, [&] {
-            if (!SelectField(ask, row)) return UpdateStatus::Refused;
-            if (FindCoverage(ask, YearOf(State.Stat[row].LastDay)) == Coverage::RegionMissing)
-                return UpdateStatus::Refused;
-            return StatusOf(UpdateField(ask));
-        }));
-    }
-    ask.Progress("Updating fields", rows.size(), rows.size());
-    EndWalk(ask, changes, before);
+    AsOneSet(ask, [&] {
+        for (const int row : rows) {
+            ask.Progress("Updating fields", statuses.size(), rows.size());
+            statuses.push_back(Guarded(ask, [&] { return UpdateRow(ask, row); }));
+        }
+        ask.Progress("Updating fields", rows.size(), rows.size());
+    });
     return statuses;
 }
 
 StationCatchUp UpdateFieldsForStation(Ask& ask, std::string_view what) {
-    const InWork before;
+    const std::string code = State.StationCode;
     const std::vector<int> rows = RowsInUse();
     StationCatchUp result;
-
-    files::ChangeSet changes;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        ask.Progress(what, i, rows.size());
-        const int row = rows[i];
-        const UpdateStatus status = Guarded(ask, [&] {
-            if (!SelectField(ask, row)) return UpdateStatus::Refused;
-            if (State.StationCode != before.StationCode) return UpdateStatus::Done;
-            ++result.Fields;
-            const bool behind = State.Stat[row].LastDay < State.TodayJulian - 1;
-            return behind ? StatusOf(UpdateField(ask)) : UpdateStatus::Done;
-        });
-        result.Worst = std::max(result.Worst, status);
-    }
-    ask.Progress(what, rows.size(), rows.size());
-    EndWalk(ask, changes, before);
+    const auto catchUp = [&](int row) {
+        if (!SelectField(ask, row)) return UpdateStatus::Refused;
+        if (State.StationCode != code) return UpdateStatus::Done;
+        ++result.Fields;
+        const bool behind = State.Stat[row].LastDay < State.TodayJulian - 1;
+        return behind ? StatusOf(UpdateField(ask)) : UpdateStatus::Done;
+    };
+    AsOneSet(ask, [&] {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            ask.Progress(what, i, rows.size());
+            result.Worst = std::max(result.Worst, Guarded(ask, [&] { return catchUp(rows[i]); }));
+        }
+        ask.Progress(what, rows.size(), rows.size());
+    });
     return result;
 }
 

@@ -1,0 +1,57 @@
+#include "catch_up/weather_check.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/catch_up/catch_up_fixture.h"
+
+namespace veraqua {
+namespace {
+
+using testing::ElementsAre;
+
+struct WeatherCheck : CatchUpTest {};
+
+TEST_F(WeatherCheck, SaysNothingWhereTheWeatherIsThere) {
+    AWeatherYear("06", 2003).Through(195).Store();
+    State.DownloadFailed = true;
+    CheckWeather(User, 2003);
+    EXPECT_TRUE(User.Told.empty());
+    EXPECT_EQ(User.WeatherSourceChosen, 0);
+    EXPECT_FALSE(State.DownloadFailed);
+}
+
+TEST_F(WeatherCheck, SendsTheUserBackUntilTheWeatherIsThere) {
+    AWeatherYear("06", 2003).Through(190).Store();
+    User.WeatherSource = [this] {
+        State.DownloadFailed = User.WeatherSourceChosen < 3;
+        State.StationCode = "08";  // what else the weather screen offers
+        State.StationName = "HOLLIN WASH";
+    };
+    CheckWeather(User, 2003);
+    EXPECT_THAT(User.Told,
+                ElementsAre(ScriptAsk::Message{"Weather data required from 07-10-03 to 07-14-03", "Weather Info"}));
+    EXPECT_EQ(User.WeatherSourceChosen, 3);
+    EXPECT_FALSE(State.DownloadFailed);
+    EXPECT_EQ(State.StationCode, "06");
+    EXPECT_EQ(State.StationName, "FENWOLD");
+}
+
+TEST_F(WeatherCheck, EndsWhereTheUserLeavesWithoutAChoice) {
+    User.WeatherSource = [] { State.DownloadFailed = State.ReportCancelled = true; };
+    CheckWeather(User, 2003);
+    EXPECT_EQ(User.Texts(), std::vector<std::string>{"Weather data required from 01-01-03 to 07-14-03"});
+    EXPECT_EQ(User.WeatherSourceChosen, 1);
+    EXPECT_TRUE(State.DownloadFailed);
+}
+
+TEST_F(WeatherCheck, EndsWithoutADefaultWeather) {
+    Directory.Put("weathdef.dat", "0, 0\n");
+    CheckWeather(User, 2003);
+    EXPECT_THAT(User.Told,
+                ElementsAre(ScriptAsk::Message{"Your default weather station was not found!", "Weather Error"}));
+    EXPECT_EQ(User.WeatherSourceChosen, 0);
+    EXPECT_TRUE(State.DownloadFailed);
+}
+
+}  // namespace
+}  // namespace veraqua
