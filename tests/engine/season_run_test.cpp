@@ -1,0 +1,306 @@
+#include "engine/season_run.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "tests/engine/season_fixture.h"
+#include "tests/support/failure.h"
+
+namespace veraqua {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// The field in row 1 and measured weather of 2003, 6 mm of reference evapotranspiration a day.
+struct UpdateFieldTest : SeasonTest {
+    /// Stores the field, and measured weather through `lastReal`.
+    void Plant(const AField& field, JulianValue lastReal) {
+        field.StoreAt(1);
+        if (lastReal >= Planting) AWeatherYear("06", 2003).Through(lastReal - JulianFromDate(12, 31, 2002)).Store();
+    }
+
+    RunOutcome Update(JulianValue lastReal) {
+        State.TodayJulian = lastReal + 1;
+        State.WeatherLastJulian = lastReal;
+        State.WeatherCoeff = DefaultWeather;
+        SelectField(User, 1);
+        return UpdateField(User);
+    }
+
+    /// The user sets the depletion on `day`.
+    static void Reset(JulianValue day, float available) {
+        FieldFile file = LoadFieldFile(1);
+        file.Days.at(static_cast<std::size_t>(day - file.Header().PlantDay)).Available = available;
+        StoreFieldFile(1, file);
+        State.Updates[1] = day;
+        ScriptAsk nobody;
+        SaveFieldRow(nobody, 1);
+    }
+
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> contents;
+        for (const std::string& name : files::Names()) contents[name] = Directory.Raw(name);
+        return contents;
+    }
+
+    static FieldFile Stored() { return LoadFieldFile(1); }
+};
+
+/// A whole season with all that a field meets: rain on growing roots, irrigation, leaching, snapshots.
+AField LivelyField() {
+    AField field;
+    field.Content({140, 90, 60, 60}).Irrigation(Planting + 40, 30);
+    for (const int day : {4, 5, 6, 15, 16, 25, 26, 33, 60}) field.Rain(Planting + day, 25);
+    return field;
+}
+
+TEST_F(UpdateFieldTest, WritesRowsThroughTheEndOfTheSeasonAndTheDirectoryRow) {
+    Plant(AField(), Planting + 20);
+    EXPECT_EQ(Update(Planting + 20), RunOutcome::Done);
+    EXPECT_THAT(Stored().Days, SizeIs(161));
+    EXPECT_EQ(Stored().Days[20].EtrSum, 120);
+    EXPECT_EQ(State.LastWeatherDay, Planting + 20);
+
+    const StatRecord row = State.Stat[1];
+    EXPECT_EQ(row.LastDay, Planting + 20);
+    EXPECT_GT(row.NextIrrDay, Planting + 20);
+    EXPECT_EQ(State.MadExceededDay, row.NextIrrDay);  // the forecast stays over the MAD from then on
+    LoadFieldDirectory();
+    EXPECT_EQ(State.Stat[1], row);
+    // Years ahead are made by looking.
+    EXPECT_EQ(Directory.Raw("weather06.07"), "");
+    EXPECT_FALSE(Directory.Has("weather06.08"));
+    EXPECT_THAT(User.Told, IsEmpty());
+}
+
+TEST_F(UpdateFieldTest, RunTwiceChangesNoByte) {
+    for (const bool isHay : {false, true}) {
+        Plant(isHay ? AField().Hay().Rain(Planting + 9, 40).Cutting(Planting + 35, 1) : LivelyField(), Planting + 50);
+        ASSERT_EQ(Update(Planting + 50), RunOutcome::Done);
+        EXPECT_FALSE(Stored().Lists.Leaching.empty());
+        EXPECT_EQ(Stored().Lists.History.empty(), isHay);
+        const auto files = Files();
+        ASSERT_EQ(Update(Planting + 50), RunOutcome::Done);
+        EXPECT_EQ(Files(), files);
+    }
+}
+
+TEST_F(UpdateFieldTest, FromAnyResetThatChangesNothingMakesTheSameFile) {
+    Plant(LivelyField(), Planting + 50);
+    Update(Planting + 50);
+    const FieldFile whole = Stored();
+    const StatRecord row = State.Stat[1];
+    ASSERT_GE(whole.Lists.History.size(), 2U);
+    for (JulianValue day = Planting + 1; day < Planting + 50; ++day) {
+        State.Updates[1] = day;
+        Update(Planting + 50);
+        EXPECT_EQ(Stored().Days, whole.Days) << "from day " << day - Planting;
+        EXPECT_EQ(Stored().Lists, whole.Lists) << "from day " << day - Planting;
+        EXPECT_EQ(Stored().Soil, whole.Soil) << "from day " << day - Planting;
+        EXPECT_EQ(State.Stat[1], row) << "from day " << day - Planting;
+    }
+}
+
+// ----------------------------------------------------------------------------------------------- nothing to be updated
+
+TEST_F(UpdateFieldTest, TellsThatAFieldIsPlantedTooFarAhead) {
+    Plant(AField(), Planting - 2);
+    const auto files = Files();
+    EXPECT_EQ(Update(Planting - 2), RunOutcome::NothingToUpdate);  // planted tomorrow, weather through yesterday
+    EXPECT_THAT(User.Told, ElementsAre(ScriptAsk::Message{
+                               "No new predictions-weather data needs updating:  Planting date = 05-02-2003.  Latest "
+                               "weather = 04-29-2003",
+                               "Veraqua Update Warning"}));
+    EXPECT_EQ(Files(), files);
+    EXPECT_EQ(Update(Planting - 1), RunOutcome::Done);  // planted today: forecast days only
+    EXPECT_THAT(Stored().Days, SizeIs(161));
+    EXPECT_EQ(State.Stat[1].LastDay, Planting);
+}
+
+// ------------------------------------------------------------------------------------------------------------- weather
+
+const char* const HoleQuestion = "Weather for 05-11-03 needed.  Do you want to use default weather?";
+
+/// No weather on the tenth day; default weather has another evapotranspiration.
+struct HoleTest : UpdateFieldTest {
+    void PlantWithHole(const AField& field, JulianValue hole = Planting + 10) {
+        DefaultWeather = SteadyWeather(AWeatherDay().ReferenceET(2));
+        field.StoreAt(1);
+        AWeatherYear("06", 2003).Through(180).On(hole - JulianFromDate(12, 31, 2002), AWeatherDay().From("")).Store();
+    }
+    static constexpr JulianValue Last = JulianFromDayOfYear(180, 2003);
+};
+
+TEST_F(HoleTest, IsFilledWithDefaultWeatherForThisRunOnly) {
+    PlantWithHole(AField());
+    const std::string weather = Directory.Raw("weather06.03");
+    User.Answers = {true};
+    EXPECT_EQ(Update(Last), RunOutcome::Done);
+    EXPECT_THAT(User.Asked, ElementsAre(ScriptAsk::Question{HoleQuestion, "Missing Data", Icon::Warning, false}));
+    EXPECT_EQ(Stored().Days[10].EtrSum, 9 * 6 + 2);
+    EXPECT_EQ(Stored().Days[11].EtrSum, 10 * 6 + 2);
+    EXPECT_EQ(Directory.Raw("weather06.03"), weather);
+    User.Answers = {true};
+    Update(Last);
+    EXPECT_THAT(User.Asked, SizeIs(2));
+}
+
+TEST_F(HoleTest, StopsTheRunAtTheDayBeforeIfTheUserSaysNo) {
+    for (const bool isHay : {false, true}) {
+        PlantWithHole(isHay ? AField().Hay() : AField());
+        User.Answers = {true};
+        Update(Last);  // a forecast stands in the file
+        const DayRecord lastGood = Stored().Days[9];
+        User.Told.clear();
+        User.Answers = {false};
+        State.WeatherNeedFrom = 0;
+        EXPECT_EQ(Update(Last), RunOutcome::StoppedByUser);
+        if (isHay)
+            EXPECT_THAT(User.Told, IsEmpty());
+        else
+            EXPECT_THAT(User.Told, ElementsAre(ScriptAsk::Message{"Writing updated Field History", "Veraqua Info"}));
+        EXPECT_THAT(Stored().Days, SizeIs(10));
+        EXPECT_EQ(Stored().Days[9], lastGood);
+        StatRecord expected;
+        expected.FieldId = State.Header().FieldId;
+        expected.CropName = State.Header().CropName;
+        expected.LastDay = Planting + 9;
+        const float capacity = 140 * (isHay ? 1.2F : lastGood.RootDepthOrKc);
+        expected.Depletion = static_cast<std::int16_t>(DepletionPercent(lastGood.Available, capacity));
+        expected.MadNow = 50;
+        EXPECT_EQ(State.Stat[1], expected);
+        EXPECT_EQ(State.WeatherNeedFrom, -1);
+    }
+}
+
+TEST_F(HoleTest, OnTheFirstDayLeavesNothingOfAnOldForecast) {
+    PlantWithHole(AField().Content(70), Planting + 1);
+    User.Answers = {true, false};
+    Update(Last);
+    EXPECT_EQ(Update(Last), RunOutcome::StoppedByUser);
+    EXPECT_THAT(Stored().Days, SizeIs(1));
+    EXPECT_EQ(State.Stat[1].LastDay, Planting);
+    EXPECT_EQ(State.Stat[1].Depletion, 50);  // of the start row
+}
+
+TEST_F(UpdateFieldTest, WritesNothingWhereAWeatherRecordIsThatOfAnotherDay) {
+    AField().StoreAt(1);
+    AWeatherYear("06", 2003).With(150, [](WeatherDay& day) { day.DayOfYear = 151; }).Store();
+    const auto files = Files();
+    const StatRecord row = State.Stat[1];
+    EXPECT_EQ(Update(JulianFromDayOfYear(180, 2003)), RunOutcome::WeatherDamaged);
+    EXPECT_THAT(User.Told, ElementsAre(ScriptAsk::Message{"Weather data file is missing or corrupt.  Download KESTA "
+                                                          "data or set with Default Data.",
+                                                          "Weather File Error"}));
+    EXPECT_EQ(Files(), files);
+    EXPECT_EQ(State.Stat[1], row);
+}
+
+// ----------------------------------------------------------------------------------------------------------- dry field
+
+TEST_F(UpdateFieldTest, AResetOverTheMadWaitsForWaterAndEndsTheFileThere) {
+    Plant(LivelyField(), Planting + 80);
+    Update(Planting + 80);
+    const FieldFile before = Stored();
+    const StatRecord row = State.Stat[1];
+    const JulianValue day = Planting + 65;  // behind all water
+    Reset(day, 10);
+    EXPECT_EQ(Update(Planting + 80), RunOutcome::Done);
+
+    const FieldFile after = Stored();
+    EXPECT_THAT(after.Days, SizeIs(66));
+    EXPECT_EQ(after.Lists.Rain, before.Lists.Rain);
+    for (const EventRecord& leached : after.Lists.Leaching) EXPECT_LE(leached.Day, day);
+    EXPECT_EQ(State.Stat[1].NextIrrDay, day);
+    // The capacity of the roots of that day, at 140 mm/m.
+    EXPECT_NEAR(State.Stat[1].NextIrrAmount, (before.Days[65].RootDepthOrKc * 140 - 10) / 0.85, 0.5);
+    EXPECT_EQ(State.Stat[1].LastDay, row.LastDay);
+    EXPECT_EQ(State.Stat[1].Depletion, row.Depletion);
+}
+
+TEST_F(UpdateFieldTest, AResetOverTheMadRunsOnWhereWaterFollows) {
+    Plant(LivelyField(), Planting + 80);
+    Update(Planting + 80);
+    const FieldFile before = Stored();
+    Reset(Planting + 59, 10);  // the day before the last rain
+    Update(Planting + 80);
+    EXPECT_THAT(Stored().Days, SizeIs(161));
+    EXPECT_TRUE(std::equal(before.Days.begin(), before.Days.begin() + 59, Stored().Days.begin()));
+    EXPECT_EQ(Stored().Days[59].Available, 10);
+    EXPECT_GT(Stored().Days[60].Available, 25);
+    Plant(AField().Days(4).Irrigation(Planting + 30, 60), Planting + 80);
+    Reset(Planting + 3, 1);
+    Update(Planting + 80);
+    EXPECT_THAT(Stored().Days, SizeIs(161));
+}
+
+// ------------------------------------------------------------------------------------------------------------ failures
+
+TEST_F(UpdateFieldTest, WithoutEfficiencyFailsAndLeavesAllAsItWas) {
+    Plant(AField().Efficiency(0), Planting + 20);
+    const auto files = Files();
+    const StatRecord row = State.Stat[1];
+    EXPECT_FAILURE(Update(Planting + 20), HasSubstr("irrigation efficiency"));
+    EXPECT_EQ(Files(), files);
+    EXPECT_EQ(State.Stat[1], row);
+}
+
+TEST_F(UpdateFieldTest, DropsAListThatIsALoneZero) {
+    Plant(AField().Rain(Planting + 3, 0).With([](FieldFile& file) {
+        file.Lists.MadChanges = {{Planting + 2, 0}};
+        file.Lists.EfficiencyChanges = {{Planting + 2, 0.5F}};
+        file.Lists.Irrigation = {{Planting + 2, 0}, {Planting + 4, 0}};
+    }),
+          Planting + 20);
+    Update(Planting + 20);
+    EXPECT_THAT(Stored().Lists.Rain, IsEmpty());
+    EXPECT_THAT(Stored().Lists.MadChanges, IsEmpty());
+    EXPECT_THAT(Stored().Lists.EfficiencyChanges, SizeIs(1));
+    EXPECT_THAT(Stored().Lists.Irrigation, SizeIs(2));
+}
+
+TEST_F(UpdateFieldTest, KeepsTheNextCuttingInTheHayHeader) {
+    Plant(AField().Hay(), Planting + 10);
+    Update(Planting + 10);
+    const JulianValue cutting = Planting + 31;  // the first day at 490 degree days, 16 a day
+    EXPECT_EQ(State.Stat[1].NextCutDay, cutting);
+    EXPECT_EQ(Stored().Hay.NextCutDay, cutting);
+    EXPECT_EQ(State.Hay.NextCutDay, cutting);
+    Plant(AField().Hay().Cutting(Planting + 10, 1), Planting + 10);
+    Update(Planting + 10);
+    EXPECT_EQ(State.Stat[1].NextCutDay, cutting + 9);  // the day of the cutting counts as the first of growth
+}
+
+// ---------------------------------------------------------------------------------------------------------- new fields
+
+TEST_F(UpdateFieldTest, ANewFieldBeginsWithTheWaterOfItsSoil) {
+    const FieldFile planned = AField().Content(84);  // 60 % of capacity
+    AField().Hay().StoreAt(1);                       // sets up the directory
+    State.CurrentField = 2;
+    State.IsHay = false;
+    State.Field = planned.Field;
+    CreateField(User, planned.Soil);
+    const FieldFile file = LoadFieldFile(2);
+    EXPECT_THAT(file.Days, SizeIs(1));
+    EXPECT_NEAR(file.Days[0].Available, 25.2, 1e-5);
+    EXPECT_EQ(file.Days[0].RootDepthOrKc, 0.3F);
+    EXPECT_EQ(file.Days[0].DaysSinceWet, 4);
+    EXPECT_EQ(State.Stat[2].Depletion, 40);
+    EXPECT_EQ(State.Stat[2].LastDay, Planting);
+    EXPECT_EQ(State.Stat[2].NextIrrDay, 0);
+    EXPECT_EQ(State.FieldCount, 2);
+
+    State.Field.MAD = 40;  // 40 % of 42 mm by 0.85
+    CreateField(User, planned.Soil);
+    EXPECT_EQ(State.Stat[2].NextIrrDay, Planting);
+    EXPECT_EQ(State.Stat[2].NextIrrAmount, 20);
+}
+
+}  // namespace
+}  // namespace veraqua
