@@ -82,11 +82,9 @@ TEST_P(RangeOf, EndsYesterdayAndAsksBeforeItOverwrites) {
 
 TEST_F(WeatherCommands, KeepTheTextUnderBothNames) {
     User.NetworkStates = {"Connected..."};
-    Serve("\n" + NetworkDays(1, 2) + "\n");
-    User.OtherAnswer = true;
+    Serve("\n\t2003,1,6\n\n2003,2,6");
+    const std::string kept = "\r\n2003,1,6\r\n2003,2,6";
     Bring(WeatherCommand::Append);
-    std::string kept = "\r\n" + ANetworkLine(1) + ANetworkLine(2);
-    for (std::size_t at = 2; (at = kept.find('\n', at)) != std::string::npos; at += 2) kept.insert(at, "\r");
     EXPECT_EQ(Directory.Raw("0603rd.txt"), kept);
     EXPECT_EQ(Directory.Raw("kesta.03"), kept);
     EXPECT_THAT(States, ElementsAre("Connected...", "Copying data to weather file", "Download Succeeded"));
