@@ -1,6 +1,7 @@
 #include "engine/curves.h"
 
 #include <cmath>
+#include <limits>
 
 #include <fmt/format.h>
 
@@ -39,8 +40,12 @@ float KcCrop(const FieldHeader& field, float gddSum) {
 }
 
 float ClimateCurve(double a, double m, double x) {
-    if (a * x < 0) throw RunTimeFailure(fmt::format("The hay curve can't be taken at {} times {}.", a, x));
-    return ToSingle(std::pow(1 + std::pow(a * x, 1 / (1 - m)), -m), "the hay curve");
+    // Infinity would end as a curve of 0 in the power around it.
+    const bool hasPower = a * x >= 0 && m != 1;
+    const double power = hasPower ? std::pow(a * x, 1 / (1 - m)) : std::numeric_limits<double>::infinity();
+    if (!std::isfinite(power))
+        throw RunTimeFailure(fmt::format("The hay curve with the exponent {} can't be taken at {} times {}.", m, a, x));
+    return ToSingle(std::pow(1 + power, -m), "the hay curve");
 }
 
 float KcHay(const HayHeader& hay, float humidityMin, float windRun, float gddSum) {

@@ -19,8 +19,8 @@ float DegreeDaysBetween(float tempMax, float tempMin, float upper, float lower);
 /// `KcSpan`, at least 0. RunTimeFailure if `KcSpan` is 0.
 float KcCrop(const FieldHeader& field, float gddSum);
 
-/// (1 + (a x)^(1 / (1 - m)))^(-m): 1 where a x is 0, falling to 0 as x grows; m below 1. RunTimeFailure if a x is
-/// negative.
+/// (1 + (a x)^(1 / (1 - m)))^(-m): 1 where a x is 0, falling to 0 as x grows; m below 1. RunTimeFailure where
+/// the inner power is none or infinite: a x negative, m 1, or 0 raised to a negative power.
 float ClimateCurve(double a, double m, double x);
 
 /// Kc of hay `gddSum` degree days after its last cutting, in the day's weather: from a low after the cutting to a top
