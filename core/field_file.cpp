@@ -80,6 +80,9 @@ class FieldFileLayout {
     File& file_;
 };
 
+/// The days of the longest season that a field file can hold, and the day behind it, are possible days too.
+constexpr JulianValue LatestPlantDay = LatestPossibleDay - std::numeric_limits<std::int16_t>::max() - 1;
+
 void CheckHeader(const HeaderCommon& header, bool isHay, std::string_view fileName) {
     const auto refuse = [fileName](const std::string& what) {
         throw RunTimeFailure(fmt::format("{}: {}.", fileName, what));
@@ -88,7 +91,7 @@ void CheckHeader(const HeaderCommon& header, bool isHay, std::string_view fileNa
         refuse(fmt::format("the crop \"{}\" is not of the kind that the field directory has", header.CropName.Text()));
     for (const int top : {header.CapacityTop, header.ContentTop})
         if (top < 0 || top > HighestZone) refuse(fmt::format("the header says that the highest soil zone is {}", top));
-    if (header.PlantDay == 0 || !IsPossibleDay(header.PlantDay))
+    if (header.PlantDay < 1 || header.PlantDay > LatestPlantDay)
         refuse(fmt::format("the header has the impossible planting day {}", header.PlantDay));
 }
 
