@@ -48,12 +48,10 @@ std::size_t RoomFor(const DataDirectory& directory, const Changes& changes) {
     return isNew ? room + block : room;  // one block for the names in the directory
 }
 
-/// Takes a journal away that must not come true. Its emptying comes first: that is what counts.
-void Discard(const DataDirectory& directory, const OpenedFile& journal) {
-    Disk& disk = CurrentDisk();
-    disk.SetSize(journal.File.Number(), 0);
-    disk.Unlink(directory.Number(), JournalFile.c_str());
-    disk.Flush(directory.Number());
+/// Takes away a journal that must not come true, not even by a power cut that brings back what isn't flushed.
+void Discard(const DataDirectory& directory) {
+    CurrentDisk().Unlink(directory.Number(), JournalFile.c_str());
+    CurrentDisk().Flush(directory.Number());
 }
 
 /// Steps 2 and 3.
@@ -67,7 +65,7 @@ OpenedFile Record(DataDirectory& directory, const Bytes& bytes, std::size_t room
         Flush(*journal);
         FlushDirectory(directory);
     } catch (const RunTimeFailure& failure) {
-        Discard(directory, *journal);
+        Discard(directory);
         if (ReadJournal(directory)) throw RecordedFailure(failure.what());  // the disk refuses even that
         throw;
     }
@@ -83,8 +81,7 @@ void WriteInPlace(const DataDirectory& directory, const Change& change) {
 
 void Delete(const DataDirectory& directory, const std::vector<std::string>& spellings) {
     for (const std::string& spelling : spellings)
-        if (CurrentDisk().Unlink(directory.Number(), spelling.c_str()) != 0 && errno != ENOENT)
-            Fail(spelling, "can't be deleted");
+        if (CurrentDisk().Unlink(directory.Number(), spelling.c_str()) != 0) Fail(spelling, "can't be deleted");
 }
 
 /// Steps 4 and 5.

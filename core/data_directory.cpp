@@ -43,7 +43,7 @@ DataDirectory::Listing FilesIn(int directory, const std::string& path) {
     errno = 0;
     while (const dirent* entry = readdir(stream.get())) {
         if (!IsOwnName(entry->d_name) && IsFile(directory, *entry))
-            files[LowerCase(entry->d_name)].push_back(entry->d_name);
+            files[LowerCase(entry->d_name)].emplace_back(entry->d_name);
         errno = 0;
     }
     if (errno != 0) Fail(path, "can't be read");

@@ -70,19 +70,19 @@ int FailingDisk::Refuse() {
     return -1;
 }
 
-DyingDisk::DyingDisk(std::string directory)
-    : RefusingDisk(true), directory_(std::move(directory)), flushedNames_(CurrentNames()) {
+WatchedDisk::WatchedDisk(std::string directory, bool lasts)
+    : RefusingDisk(lasts), directory_(std::move(directory)), flushedNames_(CurrentNames()) {
     for (const auto& [name, inode] : flushedNames_) {
         Keep(open((directory_ + name).c_str(), O_RDONLY | O_CLOEXEC));
         flushedContents_[inode] = ContentsOf(kept_.at(inode));
     }
 }
 
-DyingDisk::~DyingDisk() {
+WatchedDisk::~WatchedDisk() {
     for (const auto& [inode, file] : kept_) close(file);
 }
 
-std::map<std::string, ino_t> DyingDisk::CurrentNames() const {
+std::map<std::string, ino_t> WatchedDisk::CurrentNames() const {
     std::map<std::string, ino_t> names;
     for (const auto& entry : std::filesystem::directory_iterator(directory_)) {
         struct stat status {};
@@ -93,18 +93,18 @@ std::map<std::string, ino_t> DyingDisk::CurrentNames() const {
     return names;
 }
 
-void DyingDisk::Keep(int file) {
+void WatchedDisk::Keep(int file) {
     if (!kept_.try_emplace(StatusOf(file).st_ino, file).second) close(file);
 }
 
-int DyingDisk::Open(int directory, const char* name, int flags, mode_t mode) {
+int WatchedDisk::Open(int directory, const char* name, int flags, mode_t mode) {
     const int file = RefusingDisk::Open(directory, name, flags, mode);
     // To close a second descriptor of the lock would give the lock back.
     if (file >= 0 && std::string(name) != "veraqua.lock") Keep(openat(directory, name, O_RDONLY | O_CLOEXEC));
     return file;
 }
 
-int DyingDisk::Flush(int file) {
+int WatchedDisk::Flush(int file) {
     const int result = RefusingDisk::Flush(file);
     const struct stat status = StatusOf(file);
     if (S_ISDIR(status.st_mode))
@@ -114,14 +114,14 @@ int DyingDisk::Flush(int file) {
     return result;
 }
 
-int DyingDisk::FlushFileSystem(int file) {
+int WatchedDisk::FlushFileSystem(int file) {
     const int result = RefusingDisk::FlushFileSystem(file);
     flushedNames_ = CurrentNames();
     for (const auto& [inode, kept] : kept_) flushedContents_[inode] = ContentsOf(kept);
     return result;
 }
 
-Contents DyingDisk::Left(PowerCut cut) const {
+Contents WatchedDisk::Left(PowerCut cut) const {
     Contents left;
     for (const auto& [name, inode] : cut.NamesSurvive ? CurrentNames() : flushedNames_) {
         const auto flushed = flushedContents_.find(inode);
@@ -131,6 +131,11 @@ Contents DyingDisk::Left(PowerCut cut) const {
             left[name] = flushed != flushedContents_.end() ? flushed->second : "";
     }
     return left;
+}
+
+int StumblingDisk::Refuse() {
+    errno = EIO;
+    return -1;
 }
 
 }  // namespace veraqua::files

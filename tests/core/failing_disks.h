@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <utility>
 
 #include "tests/core/files_fixture.h"
 
@@ -51,9 +52,6 @@ class FailingDisk : public RefusingDisk {
     int error_;
 };
 
-/// Thrown where the program dies. No clean-up of the code under test catches it.
-struct Died {};
-
 /// What a power cut leaves of the changes that have not been flushed, each taken for the whole directory.
 struct PowerCut {
     bool NamesSurvive;
@@ -62,13 +60,12 @@ struct PowerCut {
 /// The first is none: the program alone dies.
 inline constexpr PowerCut PowerCuts[] = {{true, true}, {true, false}, {false, true}, {false, false}};
 
-/// At the refused call the program dies, and whatever it would do afterwards has no effect. Keeps account of what has
-/// been flushed: a file's contents by its own flush, the names by that of the directory, both by that of the file
-/// system.
-class DyingDisk : public RefusingDisk {
+/// Keeps account of what has been flushed: a file's contents by its own flush, the names by that of the directory, both
+/// by that of the file system.
+class WatchedDisk : public RefusingDisk {
   public:
-    explicit DyingDisk(std::string directory);
-    ~DyingDisk() override;
+    WatchedDisk(std::string directory, bool lasts);
+    ~WatchedDisk() override;
 
     int Open(int directory, const char* name, int flags, mode_t mode) override;
     int Flush(int file) override;
@@ -76,9 +73,6 @@ class DyingDisk : public RefusingDisk {
 
     /// The directory after a power cut at this moment.
     Contents Left(PowerCut cut) const;
-
-  protected:
-    int Refuse() override { throw Died(); }
 
   private:
     std::map<std::string, ino_t> CurrentNames() const;
@@ -88,6 +82,27 @@ class DyingDisk : public RefusingDisk {
     std::map<std::string, ino_t> flushedNames_;
     std::map<ino_t, std::string> flushedContents_;
     std::map<ino_t, int> kept_;  ///< descriptors: an inode that one is open of isn't used for another file
+};
+
+/// Thrown where the program dies. No clean-up of the code under test catches it.
+struct Died {};
+
+/// At the refused call the program dies, and whatever it would do afterwards has no effect.
+class DyingDisk : public WatchedDisk {
+  public:
+    explicit DyingDisk(std::string directory) : WatchedDisk(std::move(directory), true) {}
+
+  protected:
+    int Refuse() override { throw Died(); }
+};
+
+/// Refuses one call; the program goes on.
+class StumblingDisk : public WatchedDisk {
+  public:
+    StumblingDisk(std::string directory, int n) : WatchedDisk(std::move(directory), false) { RefuseCall(n); }
+
+  protected:
+    int Refuse() override;
 };
 
 }  // namespace veraqua::files

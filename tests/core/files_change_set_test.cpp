@@ -137,6 +137,7 @@ TEST_F(ChangeSets, CostTheSameFlushesForOneFileAndForAHundred) {
 TEST_F(ChangeSets, ReadAFileFromTheDiskOnce) {
     Contents changed = before_;
     changed["field1.dat"] = "changed by another hand";
+    changed["FIELD7.DAT"] = "copied in";
     {
         const ChangeSet set;
         const auto first = Read("field1.dat");
@@ -145,6 +146,9 @@ TEST_F(ChangeSets, ReadAFileFromTheDiskOnce) {
         EXPECT_EQ(Read("FIELD1.DAT"), first);
     }
     EXPECT_EQ(*Read("field1.dat"), "changed by another hand");
+    EXPECT_EQ(*Read("field7.dat"), "copied in");
+    Place(before_);
+    EXPECT_FALSE(Exists("field7.dat"));
 }
 
 }  // namespace veraqua::files
