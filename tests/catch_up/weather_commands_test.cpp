@@ -55,6 +55,7 @@ TEST_P(RangeOf, EndsYesterdayAndAsksBeforeItOverwrites) {
     const JulianValue newYear = JulianFromDate(1, 1, 2003);
     if (range.Stored > 0) AWeatherYear("06", 2003).Through(range.Stored).Every(AWeatherDay().From("old")).Store();
     if (range.WantedBefore > 0) State.WeatherNeedTo = newYear + range.WantedBefore - 1;
+    State.DownloadFailed = true;  // of an earlier try
     User.OtherAnswer = range.Overwrite;
     Serve(NetworkDays(1, 195));
     const CommandReport report = Bring(range.Command);
@@ -70,6 +71,7 @@ TEST_P(RangeOf, EndsYesterdayAndAsksBeforeItOverwrites) {
         return;
     }
     EXPECT_EQ(report.Ending, CommandEnding::Done);
+    EXPECT_FALSE(State.DownloadFailed);
     EXPECT_THAT(User.Fetched, ElementsAre(Url));
     EXPECT_EQ(State.WeatherNeedFrom, newYear + range.From - 1);
     EXPECT_EQ(State.WeatherNeedTo, Yesterday);
@@ -162,14 +164,6 @@ TEST_F(WeatherCommands, SayWhichTextIsNotThere) {
     EXPECT_THAT(User.Told,
                 ElementsAre(ScriptAsk::Message{"Your KESTA data file for 02 was not downloaded" + end, "KESTA Warning"},
                             ScriptAsk::Message{"Your KESTA data file for 02 was not downloaded!" + end, "Warning!"}));
-}
-
-TEST_F(WeatherCommands, WantAStationFirst) {
-    State.StationCode = "00";
-    EXPECT_EQ(Bring(WeatherCommand::Append).Ending, CommandEnding::StationMissing);
-    EXPECT_THAT(User.Told, ElementsAre(ScriptAsk::Message{"Please select your KESTA weather station first.",
-                                                          "Missing KESTA Station"}));
-    EXPECT_TRUE(User.Fetched.empty());
 }
 
 TEST_F(WeatherCommands, NameDaysWithoutWindOnceAfterTheImport) {

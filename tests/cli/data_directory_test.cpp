@@ -46,7 +46,8 @@ TEST_F(Directories, WithADamagedFileStayAsTheyAre) {
     const std::string notANumber(reinterpret_cast<const char*>(&nan), sizeof nan);
     const std::string field = Directory.Raw("field1.dat");
     const std::string weather = Directory.Raw("weather06.03");
-    const std::string fetch = "weather import 06 " + Directory.Path() + "crop.dat";
+    constexpr std::size_t lastDay = 8106;  // 193 records of 42 bytes stand before it
+    const std::string import = "weather import 06 " + Directory.Path() + "crop.dat";
     struct Damage {
         std::string File;
         std::string Bytes;
@@ -56,15 +57,15 @@ TEST_F(Directories, WithADamagedFileStayAsTheyAre) {
              {"field1.dat", field.substr(0, field.size() - 1), "field show 1"},
              {"field1.dat", Patched(field, 137, notANumber), "field days 1"},  // its first day's water
              {"field1.dat", "", "report 1"},
-             {"stat.dat", std::string(101 * 41, '\0'), "fields"},
+             {"stat.dat", std::string(4141, '\0'), "fields"},  // 101 rows
              {"stat.dat", Patched(Directory.Raw("stat.dat"), 23, Hex("FF FF FF FF")), "field update"},
              {"updates.dat", std::string(399, '\0'), "schedule"},
              {"crop.dat", "1\nMAIZE, thirty\n", "crops"},
              {"weathdef.dat", "three, 0\n", "stations"},
              {"weathdef.dat", "1, 0\nDAVIS\nTELMORAN\n38.5, 18\n23.3, -9.9, x\n", "weather check 06 2003"},
              {"weather06.03", Patched(weather, 2, notANumber), "weather show 06 2003"},
-             {"weather06.03", Patched(weather, 193 * 42, Hex("E7 03")), "weather check 06 2003"},  // day 999
-             {"weather06.03", Patched(weather, 193 * 42 + 6, notANumber), fetch}}) {
+             {"weather06.03", Patched(weather, lastDay, Hex("E7 03")), "weather check 06 2003"},  // day 999
+             {"weather06.03", Patched(weather, lastDay + 6, notANumber), import}}) {
         SCOPED_TRACE(row.File + ", " + row.Command);
         const std::string whole = Directory.Raw(row.File);
         Directory.Put(row.File, row.Bytes);

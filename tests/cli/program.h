@@ -26,8 +26,7 @@ Ran RunCli(const std::vector<std::string>& arguments, const std::vector<std::str
 
 /// A data directory on 15 July 2003: maize in row 1, hay in row 2, both of station 06 and planted on 1 May, and the
 /// station's weather through 13 July.
-class CliTest : public testing::Test {
-  protected:
+struct CliTest : testing::Test {
     CliTest() {
         for (const char* name : {"weathdef.dat", "crop.dat"}) Directory.Put(name, EmbeddedFile(name));
         AWeatherYear("06", 2003).Through(194).Store();

@@ -84,6 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
         Placing{"ATextThatBeginsLate", NetworkDays(103, 110), "oooodddmm..."},
         Placing{"ATextThatEnds", NetworkDays(95, 101), "oooommd....."},
         Placing{"ATextThatEndsBeforeTheRange", NetworkDays(90, 97), "ooood......."},
+        Placing{"AnEndBeforeTheRange", NetworkDays(90, 95) + ANetworkLine(96).Column(2, "?") + NetworkDays(98, 110),
+                "ooood......."},
         Placing{"ATextThatEndsBadly", NetworkDays(99, 101) + ANetworkLine(102).Bad(), "oooomm......"},
         Placing{"AnUnreadableDayAsTheEnd", NetworkDays(99, 101) + ANetworkLine(102).Column(2, "?") + ANetworkLine(103),
                 "oooommd....."},
