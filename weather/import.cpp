@@ -94,12 +94,16 @@ class Importer {
         const WeatherDay day = DayOfLine();
         outcome_.LastDay = day;
         if (line_->DayOfYear < place_.DayOfYear) {
-            // The text has ended before the wanted day: one default day stands in.
-            PutDefault();
+            // The text has ended before the wanted day, or goes back: what follows its line is default weather, but
+            // never a day before the wanted range.
+            const int firstWanted = State.WeatherNeedFrom - JulianFromDate(1, 1, place_.Year) + 1;
+            for (int dayOfYear = std::max(line_->DayOfYear + 1, firstWanted); dayOfYear <= place_.DayOfYear;
+                 ++dayOfYear)
+                PutDefault(dayOfYear);
             return false;
         }
         if (line_->DayOfYear == place_.DayOfYear && line_->Bad) return false;
-        for (; place_.DayOfYear < line_->DayOfYear; ++place_.DayOfYear, ++day_) PutDefault();
+        for (; place_.DayOfYear < line_->DayOfYear; ++place_.DayOfYear, ++day_) PutDefault(place_.DayOfYear);
         file_.Put(place_.DayOfYear, day);
         if (line_->WindMissing && !line_->Bad) outcome_.WindlessDays.push_back(day_);
         return true;
@@ -114,7 +118,7 @@ class Importer {
         }
     }
 
-    void PutDefault() { file_.Put(place_.DayOfYear, DefaultDay(State.WeatherCoeff, place_.DayOfYear)); }
+    void PutDefault(int dayOfYear) { file_.Put(dayOfYear, DefaultDay(State.WeatherCoeff, dayOfYear)); }
 
     /// Steps to the next day wanted, into the next year's files where it lies there. False past the range.
     bool NextDay() {
