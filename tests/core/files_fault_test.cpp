@@ -207,6 +207,7 @@ class Deaths : public Faults {
     std::vector<Contents> AfterRestarts(const WatchedDisk& disk) {
         std::vector<Contents> found;
         for (const PowerCut cut : PowerCuts) found.push_back(disk.Left(cut));
+        UseQuickDisk();
         for (Contents& left : found) left = AfterRestart(left);
         return found;
     }
@@ -217,7 +218,6 @@ class Deaths : public Faults {
         const auto known = restarted_.find(left);
         if (known != restarted_.end()) return known->second;
         Place(left);
-        UseQuickDisk();
         Open(Path(), Access::Write);
         EXPECT_EQ(Seen(), OnDisk());
         Close();
