@@ -19,11 +19,6 @@ namespace {
 
 constexpr std::size_t LongestName = 255;
 
-bool IsOwnName(std::string_view name) {
-    const std::string lower = LowerCase(name);
-    return lower == LockName || lower == JournalName || lower.starts_with(ScratchPrefix);
-}
-
 bool IsFile(int directory, const dirent& entry) {
     if (entry.d_type == DT_REG) return true;
     if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return false;
@@ -52,6 +47,11 @@ DataDirectory::Listing FilesIn(int directory, const std::string& path) {
 }
 
 }  // namespace
+
+bool IsOwnName(std::string_view name) {
+    const std::string lower = LowerCase(name);
+    return lower == LockName || lower == JournalName || lower.starts_with(ScratchPrefix);
+}
 
 void ExpectDataName(std::string_view name) {
     if (name.empty() || name.size() > LongestName || name == "." || name == ".." || IsOwnName(name) ||

@@ -22,6 +22,9 @@ inline constexpr std::string_view ScratchPrefix = ".veraqua-";
 /// A data file is far smaller; one above this has gone wrong.
 inline constexpr std::size_t LargestDataFile = std::size_t{64} << 20;
 
+/// True for the names that the directory needs for itself, whatever their case.
+bool IsOwnName(std::string_view name);
+
 /// RunTimeFailure unless `name` can be a data file's: 1 to 255 bytes, no "/" and no NUL byte, and not a name that the
 /// directory needs for itself.
 void ExpectDataName(std::string_view name);

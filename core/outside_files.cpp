@@ -53,7 +53,7 @@ OpenedFile MakeScratchFile(const std::string& path, mode_t mode) {
 
 }  // namespace
 
-void WriteOutside(const std::string& path, std::string_view contents) {
+void WriteOutside(const std::string& path, std::string_view contents) try {
     const std::string replaced = ReplacedPath(path);
     const OpenedFile scratch = MakeScratchFile(replaced, ModeFor(path));
     try {
@@ -64,12 +64,19 @@ void WriteOutside(const std::string& path, std::string_view contents) {
         CurrentDisk().Unlink(AT_FDCWD, scratch.Name.c_str());
         throw;
     }
+} catch (const RunTimeFailure& failure) {
+    throw Refusal(failure.what());
 }
 
-Bytes ReadOutside(const std::string& path, std::size_t limit) {
+Bytes ReadOutside(const std::string& path, std::size_t limit) try {
+    // To open and close the lock file would give the lock back.
+    if (IsOwnName(path.substr(path.rfind('/') + 1)))
+        throw RunTimeFailure(fmt::format("{} is no file to be read.", path));
     const auto file = OpenToRead(AT_FDCWD, path);
     if (!file) Fail(path, "can't be read", ENOENT);
     return ReadWhole(*file, limit);
+} catch (const RunTimeFailure& failure) {
+    throw Refusal(failure.what());
 }
 
 bool DirectoryExists(const std::string& path) {

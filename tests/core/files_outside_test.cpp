@@ -83,6 +83,8 @@ TEST_F(FilesTest, AFileThatTheUserNamesIsReadUpToALimit) {
                 ThrowsMessage<RunTimeFailure>(HasSubstr("missing.txt can't be read: No such file or directory")));
     ASSERT_EQ(mkfifo((Path() + "pipe").c_str(), 0600), 0);
     EXPECT_THROW(ReadOutside(Path() + "pipe", 5), RunTimeFailure);  // and doesn't wait for a writer
+    Open(Path(), Access::Write);
+    EXPECT_THROW(ReadOutside(Path() + "veraqua.lock", 5), RunTimeFailure);  // which would give the lock back
 }
 
 TEST_F(FilesTest, DirectoriesAreMadeWithAllAboveThem) {
