@@ -218,6 +218,9 @@ int RunProgram(int argumentCount, const char* const* arguments) {
         if (!session.Prepare()) return ExitRefused;
         const int status = options.Chosen()(session);
         return session.OutputLost() ? std::max<int>(status, ExitRefused) : status;
+    } catch (const Refusal& refusal) {
+        session.Outside.Tell(refusal.what(), ProgramTitle, Icon::Stop);
+        return ExitRefused;
     } catch (const RunTimeFailure& failure) {
         session.Outside.Tell(failure.what(), ProgramTitle, Icon::Stop);
         return ExitFailure;

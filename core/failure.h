@@ -13,4 +13,11 @@ class RunTimeFailure : public std::runtime_error {
     explicit RunTimeFailure(const std::string& text) : std::runtime_error(text) {}
 };
 
+/// What the user can set right without a repair, and that is no fault of a data file or of the arithmetic: another
+/// program holds the data directory, or a file that he named can't be read or written.
+class Refusal : public RunTimeFailure {
+  public:
+    using RunTimeFailure::RunTimeFailure;
+};
+
 }  // namespace veraqua

@@ -174,7 +174,7 @@ void LockForWriting(OpenDirectory& opened) {
     }
     const pid_t holder = opened.Lock.Holder();
     const std::string process = holder != 0 ? fmt::format(" (process {})", holder) : "";
-    throw RunTimeFailure(fmt::format("Another Veraqua{} is working in {}. Close it first.", process, path));
+    throw Refusal(fmt::format("Another Veraqua{} is working in {}. Close it first.", process, path));
 }
 
 /// True if this program has got the lock and no journal stands in its way.

@@ -19,9 +19,9 @@ enum class Access {
     Write,  ///< holds the directory's lock until `Close`
 };
 
-/// Opens the data directory (`path` ends in "/" or not). RunTimeFailure if it can't be read, or with `Write` if another
-/// program holds it (the text names that process) or it can't be written. A whole journal found is carried out, a half
-/// one removed.
+/// Opens the data directory (`path` ends in "/" or not). With `Write`, a Refusal if another program
+/// holds it (the text names that process). RunTimeFailure if it can't be read, or with `Write` can't be written. A
+/// whole journal found is carried out, a half one removed.
 void Open(const std::string& path, Access access);
 
 /// Gives the lock back and forgets the directory. Without an open directory it does nothing.
@@ -74,11 +74,11 @@ class ChangeSet {
 };
 
 /// A text that leaves the program, such as a report: written whole beside its place and renamed into it, so that an old
-/// file of that name stays until the new one is complete. RunTimeFailure if the disk refuses, if the old file is
+/// file of that name stays until the new one is complete. A Refusal if the disk refuses, if the old file is
 /// write-protected or if the name belongs to something that isn't a file.
 void WriteOutside(const std::string& path, std::string_view contents);
 
-/// A file that the user names, anywhere. RunTimeFailure if it can't be read or is larger than `limit` bytes.
+/// A file that the user names, anywhere. A Refusal if it can't be read or is larger than `limit` bytes.
 Bytes ReadOutside(const std::string& path, std::size_t limit);
 
 bool DirectoryExists(const std::string& path);

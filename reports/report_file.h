@@ -19,7 +19,7 @@ std::optional<std::string> ReportPath(Ask& ask, std::string_view text, BareName 
 
 /// Saves `report` to the path in `ReportFileName`, which becomes that of `defaultName` in the data directory where it
 /// is empty. An old file of that name is replaced. Then tells that `what`, such as "Your Field Report", was saved.
-/// RunTimeFailure if the disk refuses; an old file is then as before.
+/// A Refusal if the disk refuses; an old file is then as before.
 void SaveReport(Ask& ask, std::string_view what, std::string_view defaultName, std::string_view report);
 
 }  // namespace veraqua

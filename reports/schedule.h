@@ -11,7 +11,7 @@ namespace veraqua {
 /// is read.
 std::string ScheduleText(const Ask& ask);
 
-/// Saves it to `ReportFileName`, by default Predict.txt in the data directory, and tells so. RunTimeFailure if the disk
+/// Saves it to `ReportFileName`, by default Predict.txt in the data directory, and tells so. A Refusal if the disk
 /// refuses.
 void SaveSchedule(Ask& ask);
 
