@@ -91,7 +91,9 @@ TEST_F(EventTest, OfOneDayCutFirstThenResetTheWaterThenAddTheRain) {
         }));
     EXPECT_EQ(season.Days[1].GddSum, 32);
     EXPECT_EQ(season.Days[2], (DayRecord{70, 16, season.Days[2].RootDepthOrKc, 0, 0}));
-    EXPECT_GT(season.Days[2].RootDepthOrKc, 0.3F);  // Kc of the first day of growth
+    // Kc of the first day of growth, a little above the low of the curve, which is 0.3 to 0.5.
+    EXPECT_GT(season.Days[2].RootDepthOrKc, 0.3F);
+    EXPECT_LT(season.Days[2].RootDepthOrKc, 0.6F);
 }
 
 // ------------------------------------------------------------------------------------------------------------- weather
@@ -197,6 +199,15 @@ TEST_F(EventTest, EachGainOfADeeperZoneKeepsTheProfileBeforeItAndTheRestLeaches)
     EXPECT_EQ(season.Soil.Content, (Zones{100, 100, 100, 100}));
     EXPECT_THAT(season.Leaching, ElementsAre(EventRecord{Planting + 8, 4}));
     EXPECT_EQ(season.End.Available, 50);
+}
+
+// Zone 1 holds 4 mm more than it can below the roots, and no zone has room for them.
+TEST_F(EventTest, ALossOfADeeperZoneKeepsNoProfile) {
+    const Season season =
+        Run(AField().Roots(0.5F, 1).Capacity(100).Content({100, 140, 100, 100}).Days({{50, 0, 0.5F, 0, 4}}));
+    EXPECT_THAT(season.History, SizeIs(0));
+    EXPECT_EQ(season.Soil.Content, (Zones{100, 100, 100, 100}));
+    EXPECT_THAT(season.Leaching, ElementsAre(EventRecord{Planting + 1, 4}));
 }
 
 // ------------------------------------------------------------------------------------------------------- water account
