@@ -111,7 +111,7 @@ Files ChangedSince(const Files& before, const std::string& directory) {
 void CatchUpOfAHundredFields(benchmark::State& run) {
     Farm farm(Fields, SeasonLength, false);
     files::Close();
-    const std::string directory = farm.Path();
+    const std::string& directory = farm.Path();
     const Files before = FilesOf(directory);
     const std::vector<std::string> update{"--data", directory, "--today", "07-20-2026", "--json", "field", "update"};
     double whole = 0;
