@@ -23,7 +23,7 @@ struct Typed {
     int Row = 0;
     int Year = 0;
     std::vector<int> Rows;
-    std::string OutFile;
+    std::optional<std::string> OutFile;
     std::string Station;
     std::string From;
     std::string To;
@@ -38,6 +38,13 @@ constexpr int LastYear = 9999;
 std::string FaultOfNumber(const std::string& text) {
     const std::optional<double> value = Numeric(text);
     return value && FitsSingle(*value) ? "" : "\"" + text + "\" is no number";
+}
+
+/// Lets `command` take an option whose value may be empty, which is a typed text and not the option's absence.
+CLI::Option* TakeText(CLI::App* command, const std::string& name, std::optional<std::string>& value,
+                      const std::string& what) {
+    return command->add_option_function<std::string>(
+        name, [&value](const std::string& typed) { value = typed; }, what);
 }
 
 class ProgramOptions {
@@ -63,9 +70,9 @@ class ProgramOptions {
   private:
     void AddGlobalOptions() {
         GlobalOptions& options = session_.Options;
-        app_.add_option("--data", options.DataDirectory, "data directory (default: $XDG_DATA_HOME/veraqua)")
+        TakeText(&app_, "--data", options.DataDirectory, "data directory (default: $XDG_DATA_HOME/veraqua)")
             ->type_name("DIR");
-        app_.add_option("--today", options.Today, "date that counts as today (default: the clock's)")
+        TakeText(&app_, "--today", options.Today, "date that counts as today (default: the clock's)")
             ->type_name("MM-DD-YYYY");
         app_.add_option("--units", options.Units, "units of input and text output: english or metric")
             ->check(CLI::IsMember({"english", "metric"}))
@@ -109,7 +116,7 @@ class ProgramOptions {
     }
 
     void TakeOutFile(CLI::App* command) {
-        command->add_option("-o,--output", typed_.OutFile, "file to write instead of printing")->type_name("FILE");
+        TakeText(command, "-o,--output", typed_.OutFile, "file to write instead of printing")->type_name("FILE");
     }
 
     void AddGeneralCommands() {
@@ -166,9 +173,8 @@ class ProgramOptions {
                                [this](Session& session) { return RunWeatherImport(session, typed_.Import); });
         import->add_option("STATION", options.Station, "two-digit station code, such as 06")->required()->type_name("");
         import->add_option("FILE", options.File, "the text")->required()->type_name("");
-        CLI::Option* from =
-            import->add_option("--from", options.From, "first day (default: after the last stored one)");
-        CLI::Option* to = import->add_option("--to", options.To, "last day (default: yesterday)");
+        CLI::Option* from = TakeText(import, "--from", options.From, "first day (default: after the last stored one)");
+        CLI::Option* to = TakeText(import, "--to", options.To, "last day (default: yesterday)");
         from->needs(to)->type_name("DATE");
         to->needs(from)->type_name("DATE");
     }

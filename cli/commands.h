@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,15 +20,15 @@ int RunFieldUpdate(Session& session, std::vector<int> rows);
 int RunFieldShow(Session& session, int row);
 int RunFieldDays(Session& session, int row);
 
-/// Into `file`, or on stdout if it is empty.
-int RunSchedule(Session& session, const std::string& file);
-int RunReport(Session& session, int row, const std::string& file);
+/// Into `file`, or on stdout without one.
+int RunSchedule(Session& session, const std::optional<std::string>& file);
+int RunReport(Session& session, int row, const std::optional<std::string>& file);
 
 struct ImportOptions {
     std::string Station;
     std::string File;
-    std::string From;  ///< both or none
-    std::string To;
+    std::optional<std::string> From;  ///< both or none
+    std::optional<std::string> To;
 };
 
 int RunWeatherDefault(Session& session, const std::string& station, const std::string& from, const std::string& to);

@@ -21,23 +21,23 @@ bool TakeReportName(Session& session, const std::string& file) {
 
 }  // namespace
 
-int RunSchedule(Session& session, const std::string& file) {
+int RunSchedule(Session& session, const std::optional<std::string>& file) {
     if (!session.OpenData(files::Access::Read)) return ExitRefused;
-    if (!file.empty() && !TakeReportName(session, file)) return ExitRefused;
-    if (!file.empty()) SaveSchedule(session.Outside);
-    session.Print(JsonOfRows(RowsInUse()), file.empty() ? ScheduleText(session.Outside) : "");
+    if (file && !TakeReportName(session, *file)) return ExitRefused;
+    if (file) SaveSchedule(session.Outside);
+    session.Print(JsonOfRows(RowsInUse()), file ? "" : ScheduleText(session.Outside));
     return ExitDone;
 }
 
-int RunReport(Session& session, int row, const std::string& file) {
+int RunReport(Session& session, int row, const std::optional<std::string>& file) {
     if (!session.OpenData(files::Access::Read) || !IsField(session, row)) return ExitRefused;
-    if (!file.empty() && !TakeReportName(session, file)) return ExitRefused;
+    if (file && !TakeReportName(session, *file)) return ExitRefused;
     const std::optional<std::string> report = FieldReportText(session.Outside, row);
-    if (!report || (!file.empty() && !SaveFieldReport(session.Outside, row))) return ExitRefused;
+    if (!report || (file && !SaveFieldReport(session.Outside, row))) return ExitRefused;
     const FieldFile field = LoadFieldFile(row);
     Json json = JsonOfField(row, field);
     json["days"] = JsonOfDays(field);
-    session.Print(json, file.empty() ? *report : "");
+    session.Print(json, file ? "" : *report);
     return ExitDone;
 }
 

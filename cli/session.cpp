@@ -57,15 +57,15 @@ std::string NetworkFromFile() {
 bool Session::Prepare() {
     Outside.AllowProgress(!Options.JsonWanted);
     Outside.SetAnswer(Options.Answer == "yes");
-    if (Options.Today.empty()) return true;
-    const std::optional<JulianValue> today = DateFrom(Options.Today);
+    if (!Options.Today) return true;
+    const std::optional<JulianValue> today = DateFrom(*Options.Today);
     if (today) Outside.SetNow(*today);
     return today.has_value();
 }
 
 bool Session::OpenData(files::Access access) {
-    std::vector<std::string> candidates{Options.DataDirectory};
-    if (Options.DataDirectory.empty()) candidates = {DataHome() + "veraqua", DataHome() + "Veraqua"};
+    std::vector<std::string> candidates{DataHome() + "veraqua", DataHome() + "Veraqua"};
+    if (Options.DataDirectory) candidates = {*Options.DataDirectory};
     for (const std::string& path : candidates) {
         if (!IsDataDirectory(path)) continue;
         files::Open(path, access);
@@ -77,9 +77,7 @@ bool Session::OpenData(files::Access access) {
     return false;
 }
 
-std::string Session::DirectoryToMake() const {
-    return Options.DataDirectory.empty() ? DataHome() + "veraqua" : Options.DataDirectory;
-}
+std::string Session::DirectoryToMake() const { return Options.DataDirectory.value_or(DataHome() + "veraqua"); }
 
 void Session::StartSystem() {
     StartUp(Outside);

@@ -20,8 +20,8 @@ enum ExitStatus : int {
 
 /// The options that stand before the command.
 struct GlobalOptions {
-    std::string DataDirectory;
-    std::string Today;
+    std::optional<std::string> DataDirectory;
+    std::optional<std::string> Today;
     std::string Units = "english";
     std::string Answer = "no";
     std::string BaseUrl;

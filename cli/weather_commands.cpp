@@ -57,8 +57,8 @@ bool SetRange(Session& session, const std::string& from, const std::string& to) 
 
 /// The range of an import and the last day of weather before it.
 bool SetImportRange(Session& session, const ImportOptions& options) {
-    if (options.From.empty()) return ChooseRange(session.Outside, WeatherCommand::Append);
-    if (!SetRange(session, options.From, options.To)) return false;
+    if (!options.From || !options.To) return ChooseRange(session.Outside, WeatherCommand::Append);
+    if (!SetRange(session, *options.From, *options.To)) return false;
     State.WeatherLastJulian = LastWeatherJulian(State.StationCode, YearOf(State.WeatherNeedTo));
     return true;
 }
