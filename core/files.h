@@ -86,7 +86,7 @@ bool DirectoryExists(const std::string& path);
 /// Whether the two paths lead to one directory, links followed. An empty path is the working directory.
 bool SameDirectory(const std::string& a, const std::string& b);
 
-/// Makes `path` and what is missing above it.
+/// Makes `path` and what is missing above it. A Refusal if the disk refuses.
 void MakeDirectory(const std::string& path);
 
 }  // namespace veraqua::files

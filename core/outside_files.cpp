@@ -91,13 +91,15 @@ bool SameDirectory(const std::string& a, const std::string& b) {
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-void MakeDirectory(const std::string& path) {
+void MakeDirectory(const std::string& path) try {
     for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
         const std::string part = path.substr(0, end);
         if (!DirectoryExists(part) && CurrentDisk().MakeDirectory(part.c_str()) != 0 && !DirectoryExists(part))
             Fail(part, "can't be made");
         if (end == std::string::npos) return;
     }
+} catch (const RunTimeFailure& failure) {
+    throw Refusal(failure.what());
 }
 
 }  // namespace veraqua::files
