@@ -167,6 +167,11 @@ TEST_F(Commands, RefuseWithAMessageALineEach) {
         EXPECT_EQ(ran.Status, row.Status) << row.Command;
     }
     EXPECT_EQ(RunCli({"--today", "13-1-2003", "fields"}).Status, 1);
+    // Typed but empty is not absent: no other directory or day stands in.
+    EXPECT_EQ(RunCli({"--today", "", "--data", Directory.Path(), "fields"}).Status, 1);
+    EXPECT_EQ(RunCli({"--data", "", "fields"}).Status, 1);
+    EXPECT_EQ(RunCli({"--data", Directory.Path(), "schedule", "-o", ""}).Err,
+              "Missing File Name: Please enter a file name\n");
 }
 
 TEST_F(Commands, RefuseBadUsage) {

@@ -81,6 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
         Placing{"AGapBeforeABadDay", ANetworkLine(100) + ANetworkLine(103).Bad() + NetworkDays(104, 110),
                 "oooomdd9m..."},
         Placing{"AGapOverTheEndOfTheRange", NetworkDays(100, 102) + NetworkDays(106, 110), "oooommmdddm."},
+        Placing{"ALineThatGoesBack", NetworkDays(100, 103) + ANetworkLine(100), "oooomdddd..."},
         Placing{"ATextThatBeginsLate", NetworkDays(103, 110), "oooodddmm..."},
         Placing{"ATextThatEnds", NetworkDays(95, 101), "oooommd....."},
         Placing{"ATextThatEndsBeforeTheRange", NetworkDays(90, 97), "ooood......."},
