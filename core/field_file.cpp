@@ -223,10 +223,8 @@ FieldFile LoadFieldFile(int row) {
     return ParseFieldFile(*bytes, State.Stat[row].CropName.First() == HayMark, name);
 }
 
-std::optional<FieldFile> ReadField(Ask& ask) {
-    const auto bytes = OpenField(ask, State.CurrentField);
-    if (!bytes) return std::nullopt;
-    FieldFile file = ParseFieldFile(*bytes, State.IsHay, FieldFileName(State.CurrentField));
+void TakeInWork(const FieldFile& file) {
+    State.IsHay = file.IsHay;
     if (file.IsHay)
         State.Hay = file.Hay;
     else
@@ -234,6 +232,13 @@ std::optional<FieldFile> ReadField(Ask& ask) {
     State.VariableSoil = file.VariableSoil();
     State.RainTotal = TotalAmount(file.Lists.Rain);
     State.IrrigationTotal = TotalAmount(file.Lists.Irrigation);
+}
+
+std::optional<FieldFile> ReadField(Ask& ask) {
+    const auto bytes = OpenField(ask, State.CurrentField);
+    if (!bytes) return std::nullopt;
+    FieldFile file = ParseFieldFile(*bytes, State.IsHay, FieldFileName(State.CurrentField));
+    TakeInWork(file);
     return file;
 }
 

@@ -79,6 +79,9 @@ std::shared_ptr<const files::Bytes> OpenField(Ask& ask, int row);
 /// name. RunTimeFailure if it is missing or damaged.
 FieldFile LoadFieldFile(int row);
 
+/// Sets the header, `IsHay`, `VariableSoil`, `RainTotal` and `IrrigationTotal` of the field in work to those of `file`.
+void TakeInWork(const FieldFile& file);
+
 /// Reads the file of `CurrentField` and sets its header (`Field` or `Hay`), `VariableSoil`, `RainTotal` and
 /// `IrrigationTotal`. Nothing if the file is missing, after the user has been told.
 std::optional<FieldFile> ReadField(Ask& ask);

@@ -17,33 +17,39 @@ namespace veraqua {
 /// Thrown in a test where the program would have ended.
 struct ProgramEnded {};
 
+/// What was said to the user of a test.
+struct SaidMessage {
+    std::string Text;
+    std::string Title{ProgramTitle};
+    veraqua::Icon Icon = veraqua::Icon::None;
+
+    bool operator==(const SaidMessage&) const = default;
+};
+
+struct AskedQuestion {
+    std::string Text;
+    std::string Title;
+    veraqua::Icon Icon = veraqua::Icon::None;
+    bool NoIsDefault = false;
+
+    bool operator==(const AskedQuestion&) const = default;
+};
+
+struct ProgressStep {
+    std::string What;
+    std::size_t Done = 0;
+    std::size_t Total = 0;
+
+    bool operator==(const ProgressStep&) const = default;
+};
+
 /// The user, the network and the clock of a test: plays a script and keeps a record of all that was said.
-class ScriptAsk : public Ask {
+template <class Outside>
+class Scripted : public Outside {
   public:
-    struct Message {
-        std::string Text;
-        std::string Title{ProgramTitle};
-        veraqua::Icon Icon = veraqua::Icon::None;
-
-        bool operator==(const Message&) const = default;
-    };
-
-    struct Question {
-        std::string Text;
-        std::string Title;
-        veraqua::Icon Icon = veraqua::Icon::None;
-        bool NoIsDefault = false;
-
-        bool operator==(const Question&) const = default;
-    };
-
-    struct ProgressStep {
-        std::string What;
-        std::size_t Done = 0;
-        std::size_t Total = 0;
-
-        bool operator==(const ProgressStep&) const = default;
-    };
+    using Message = SaidMessage;
+    using Question = AskedQuestion;
+    using ProgressStep = veraqua::ProgressStep;
 
     // The script
     JulianValue Today = JulianFromDate(7, 15, 2003);
@@ -104,11 +110,14 @@ class ScriptAsk : public Ask {
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }
 };
 
-inline std::ostream& operator<<(std::ostream& out, const ScriptAsk::Message& message) {
+/// For the rooms below the screen.
+using ScriptAsk = Scripted<Ask>;
+
+inline std::ostream& operator<<(std::ostream& out, const SaidMessage& message) {
     return out << '[' << message.Title << "] " << message.Text << " (icon " << static_cast<int>(message.Icon) << ')';
 }
 
-inline std::ostream& operator<<(std::ostream& out, const ScriptAsk::Question& question) {
+inline std::ostream& operator<<(std::ostream& out, const AskedQuestion& question) {
     return out << '[' << question.Title << "] " << question.Text << " (icon " << static_cast<int>(question.Icon)
                << (question.NoIsDefault ? ", No is the default)" : ")");
 }

@@ -1,0 +1,9 @@
+#include "reports/forms.h"
+
+#include "screen/forms.h"
+
+namespace veraqua {
+
+void AddReportForms() {}
+
+}  // namespace veraqua

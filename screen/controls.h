@@ -1,0 +1,173 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/calendar.h"
+
+/// The controls of a form as plain records. They know no toolkit: an event reads and sets them, and the screen shows
+/// what they say.
+namespace veraqua {
+
+struct Colour {
+    std::uint8_t Red = 0;
+    std::uint8_t Green = 0;
+    std::uint8_t Blue = 0;
+
+    bool operator==(const Colour&) const = default;
+};
+
+constexpr Colour Red{255, 0, 0};
+constexpr Colour Orange{255, 128, 0};
+constexpr Colour Yellow{255, 255, 0};
+constexpr Colour Green{128, 255, 128};
+constexpr Colour Blue{0, 0, 255};
+
+/// What all controls share.
+struct Control {
+    bool Visible = true;
+    bool Enabled = true;
+    std::string ToolTip;
+    std::optional<Colour> Background;  ///< nothing: the platform's own
+};
+
+/// "&&" in a caption shows as one "&", in every kind of control.
+struct Label : Control {
+    explicit Label(std::string caption = {}) : Caption(std::move(caption)) {}
+
+    std::string Caption;
+};
+
+/// A frame or a backing shape; what it surrounds are controls of their own.
+struct Frame : Control {
+    explicit Frame(std::string caption = {}) : Caption(std::move(caption)) {}
+
+    std::string Caption;
+};
+
+struct TextBox : Control {
+    explicit TextBox(std::string text = {}, std::size_t longest = 0) : Text(std::move(text)), Longest(longest) {}
+
+    std::string Text;       ///< "\n" is a line break in boxes of several lines
+    std::size_t Longest;    ///< characters that can be typed; 0: any number
+    bool Typed = false;     ///< the user has changed the text since the form was loaded
+    bool ReadOnly = false;  ///< shows only
+};
+
+struct Button : Control {
+    explicit Button(std::string caption = {}, std::string toolTip = {}) : Caption(std::move(caption)) {
+        ToolTip = std::move(toolTip);
+    }
+
+    std::string Caption;
+};
+
+struct ListItem {
+    std::string Text;
+    int Data = 0;  ///< what the row stands for
+
+    bool operator==(const ListItem&) const = default;
+};
+
+/// What lists and drop-down lists share.
+struct ItemList : Control {
+    std::vector<ListItem> Items;
+    int Index = -1;  ///< the row selected, from 0; -1: none
+
+    void Add(std::string text, int data = 0) { Items.push_back({std::move(text), data}); }
+    void Clear() {
+        Items.clear();
+        Index = -1;
+    }
+    /// The selected row; null if none is.
+    const ListItem* Selected() const {
+        return Index >= 0 && Index < static_cast<int>(Items.size()) ? &Items[static_cast<std::size_t>(Index)] : nullptr;
+    }
+};
+
+struct ListBox : ItemList {};
+
+/// A drop-down list. Its text is that of the row selected, or what was typed where it can be edited.
+struct ComboBox : ItemList {
+    explicit ComboBox(bool editable = false) : Editable(editable) {}
+
+    std::string Text;
+    bool Editable;
+
+    void Clear() {
+        ItemList::Clear();
+        Text.clear();
+    }
+    void Select(int index) {
+        Index = index;
+        Text = Selected() != nullptr ? Selected()->Text : "";
+    }
+};
+
+/// One of a group of which only one is chosen; its form keeps the group.
+struct OptionButton : Control {
+    explicit OptionButton(std::string caption = {}, bool chosen = false)
+        : Caption(std::move(caption)), Chosen(chosen) {}
+
+    std::string Caption;
+    bool Chosen;
+};
+
+/// An entry of the menu bar (level 1) or of a menu below it; one with entries of the next level behind it opens these.
+struct MenuItem : Control {
+    explicit MenuItem(std::string caption = {}, int level = 1) : Caption(std::move(caption)), Level(level) {}
+
+    std::string Caption;
+    int Level;
+};
+
+struct StatusBar : Control {
+    std::array<std::string, 3> Panels;
+};
+
+/// A bar from 0 to 100.
+struct ProgressBar : Control {
+    double Value = 0;
+};
+
+/// One of the program's own pictures, named after its control.
+struct Image : Control {};
+
+/// A month calendar.
+struct Calendar : Control {
+    JulianValue Day = 0;
+};
+
+/// A picker of a directory, and what it shows of it.
+struct DirectoryBox : Control {
+    std::string Path;                ///< with a final "/"
+    std::vector<std::string> Files;  ///< names in it
+};
+
+/// Something drawn: lines, texts and pictures in a plane of `Width` by `Height` units, y downwards.
+struct Drawing : Control {
+    enum class Kind { Line, Text, Picture };
+
+    struct Shape {
+        Kind Is = Kind::Line;
+        double Left = 0;  ///< of a line its beginning and end
+        double Top = 0;
+        double Right = 0;
+        double Bottom = 0;
+        Colour Ink;
+        std::string Text;  ///< centred in its box; of a picture its name
+
+        bool operator==(const Shape&) const = default;
+    };
+
+    double Width = 0;
+    double Height = 0;
+    std::string FontFamily;
+    std::vector<Shape> Shapes;
+};
+
+}  // namespace veraqua

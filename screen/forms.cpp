@@ -1,0 +1,153 @@
+#include "screen/forms.h"
+
+#include <algorithm>
+#include <cassert>
+#include <deque>
+
+#include "core/field_in_work.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+/// A table's place never changes: forms and screens hold on to it.
+std::deque<FormTable>& Forms() {
+    static std::deque<FormTable> forms;
+    return forms;
+}
+
+/// False where the form has ended itself while loading.
+bool Open(FormTable& form) {
+    if (!form.Loaded) {
+        form.Reset();
+        form.Focused = nullptr;
+        form.Loaded = true;
+        try {
+            if (form.Load) form.Load();
+        } catch (const RunTimeFailure&) {
+            form.Loaded = false;
+            throw;
+        }
+    }
+    form.Shown = form.Loaded;
+    return form.Loaded;
+}
+
+/// Runs a function of `form` as an event.
+template <class Function>
+bool AsEvent(FormTable& form, Function function) {
+    try {
+        return function();
+    } catch (const RunTimeFailure& failure) {
+        RereadFieldInWork();
+        TheScreen().Failed(failure);
+        const bool nothingLeft =
+            std::none_of(Forms().begin(), Forms().end(), [](const FormTable& f) { return f.Shown; });
+        if (nothingLeft && form.Loaded) Show(form.Name);
+        return false;
+    }
+}
+
+}  // namespace
+
+ControlEntry* FormTable::Find(std::string_view name) {
+    const auto found = std::find_if(Controls.begin(), Controls.end(),
+                                    [name](const ControlEntry& entry) { return entry.Name == name; });
+    return found == Controls.end() ? nullptr : &*found;
+}
+
+ControlEntry* FormTable::Find(const Control& control) {
+    const auto found = std::find_if(Controls.begin(), Controls.end(),
+                                    [&](const ControlEntry& entry) { return &entry.Shared() == &control; });
+    return found == Controls.end() ? nullptr : &*found;
+}
+
+void AddForm(FormTable table) {
+    const auto known =
+        std::find_if(Forms().begin(), Forms().end(), [&](const FormTable& f) { return f.Name == table.Name; });
+    if (known == Forms().end()) Forms().push_back(std::move(table));
+}
+
+FormTable& FormOf(FormName name) {
+    const auto found =
+        std::find_if(Forms().begin(), Forms().end(), [name](const FormTable& f) { return f.Name == name; });
+    assert(found != Forms().end());
+    return *found;
+}
+
+std::vector<FormTable*> AllForms() {
+    std::vector<FormTable*> forms;
+    for (FormTable& form : Forms()) forms.push_back(&form);
+    return forms;
+}
+
+void Show(FormName name) {
+    FormTable& form = FormOf(name);
+    if (Open(form)) TheScreen().Present(form);
+}
+
+void ShowModal(FormName name) {
+    FormTable& form = FormOf(name);
+    if (Open(form)) TheScreen().RunModal(form);
+}
+
+void Hide(FormName name) {
+    FormTable& form = FormOf(name);
+    if (!form.Shown) return;
+    form.Shown = false;
+    TheScreen().Withdraw(form);
+}
+
+void Unload(FormName name) {
+    FormTable& form = FormOf(name);
+    if (!form.Loaded) return;
+    form.Loaded = false;
+    const bool wasShown = std::exchange(form.Shown, false);
+    if (form.Unload) form.Unload();
+    if (wasShown) TheScreen().Withdraw(form);
+}
+
+void Fill(FormName name) {
+    const FormTable& form = FormOf(name);
+    if (form.Loaded && form.Fill) form.Fill();
+}
+
+bool IsLoaded(FormName name) { return FormOf(name).Loaded; }
+
+bool RunEvent(FormTable& form, const ControlEntry& control, Event event) {
+    const auto function = control.Events.find(event);
+    return function == control.Events.end() || AsEvent(form, function->second);
+}
+
+void CloseForm(FormTable& form) {
+    AsEvent(form, [&form] {
+        if (form.Close)
+            form.Close();
+        else
+            Unload(form.Name);
+        return true;
+    });
+}
+
+bool LeaveChecksPass(FormName name) {
+    FormTable& form = FormOf(name);
+    for (ControlEntry& entry : form.Controls) {
+        TextBox* const* box = std::get_if<TextBox*>(&entry.Where);
+        const auto check = entry.Events.find(Event::Leave);
+        if (box == nullptr || check == entry.Events.end() || !(*box)->Visible) continue;
+        if (((*box)->Typed || (*box)->Text.empty()) && !check->second()) return false;
+    }
+    return true;
+}
+
+bool MoveFocus(FormTable& form, const ControlEntry* next) {
+    ControlEntry* const from = form.Focused == nullptr ? nullptr : form.Find(*form.Focused);
+    if (next != nullptr && &next->Shared() == form.Focused) return true;
+    if (from != nullptr && from->Shared().Visible && !(next != nullptr && next->IsExit))
+        if (!RunEvent(form, *from, Event::Leave)) return false;
+    form.Focused = next == nullptr ? nullptr : &next->Shared();
+    return true;
+}
+
+}  // namespace veraqua

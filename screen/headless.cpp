@@ -1,0 +1,130 @@
+#include "screen/headless.h"
+
+#include <stdexcept>
+
+namespace veraqua {
+
+namespace {
+
+template <class... Kinds>
+struct Overloaded : Kinds... {
+    using Kinds::operator()...;
+};
+template <class... Kinds>
+Overloaded(Kinds...) -> Overloaded<Kinds...>;
+
+[[noreturn]] void Misuse(const FormTable& form, std::string_view name, std::string_view why) {
+    throw std::logic_error(std::string(form.Text) + "." + std::string(name) + " " + std::string(why));
+}
+
+/// What a click does to the control itself: options of one form are one group.
+void Clicked(FormTable& form, ControlEntry& control) {
+    OptionButton* const* option = std::get_if<OptionButton*>(&control.Where);
+    if (option == nullptr) return;
+    for (ControlEntry& other : form.Controls)
+        if (OptionButton* const* one = std::get_if<OptionButton*>(&other.Where)) (*one)->Chosen = false;
+    (*option)->Chosen = true;
+}
+
+}  // namespace
+
+void HeadlessScreen::RunModal(FormTable& form) {
+    if (waiting_) std::exchange(waiting_, nullptr)();
+    const auto doing = doings_.find(form.Name);
+    // A copy: while the user is at it, he may be told to do something else the next time.
+    if (form.Shown && doing != doings_.end()) std::function<void()>(doing->second)();
+    if (form.Shown) CloseForm(form);
+}
+
+void HeadlessScreen::StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) {
+    waiting_ = [this, url, progress = std::move(progress)] { Carry(url, progress); };
+}
+
+void HeadlessScreen::Carry(const std::string& url, const std::function<void(const HttpProgress&)>& progress) {
+    progress({HttpProgress::Resolving, {}});
+    const HttpReply reply = Get(url, [](std::string_view) {});
+    if (reply.Succeeded) progress({HttpProgress::Connected, {}});
+    progress({reply.Succeeded ? HttpProgress::Complete : HttpProgress::Error, reply});
+}
+
+At& At::Type(std::string_view box, std::string_view text) {
+    ControlEntry& control = Usable(box);
+    if (!Reach(control)) return *this;
+    std::visit(Overloaded{[&](TextBox* typed) {
+                              if (typed->ReadOnly) Misuse(*form_, box, "only shows");
+                              typed->Text = text;
+                              typed->Typed = true;
+                          },
+                          [&](ComboBox* typed) {
+                              if (!typed->Editable) Misuse(*form_, box, "can't be typed into");
+                              typed->Text = text;
+                              typed->Index = -1;
+                              for (int i = 0; i < static_cast<int>(typed->Items.size()); ++i)
+                                  if (typed->Items[static_cast<std::size_t>(i)].Text == text) typed->Index = i;
+                          },
+                          [&](auto*) { Misuse(*form_, box, "takes no text"); }},
+               control.Where);
+    RunEvent(*form_, control, Event::Change);
+    return *this;
+}
+
+At& At::Click(std::string_view name) {
+    ControlEntry& control = Usable(name);
+    const bool takesFocus = !std::holds_alternative<MenuItem*>(control.Where);
+    if (takesFocus ? !Reach(control) : held_) return *this;
+    Clicked(*form_, control);
+    RunEvent(*form_, control, Event::Click);
+    return *this;
+}
+
+At& At::Pick(std::string_view list, int position) {
+    ControlEntry& control = Usable(list);
+    if (!Reach(control)) return *this;
+    if (ComboBox* const* combo = std::get_if<ComboBox*>(&control.Where))
+        (*combo)->Select(position);
+    else if (ListBox* const* box = std::get_if<ListBox*>(&control.Where))
+        (*box)->Index = position;
+    else
+        Misuse(*form_, list, "is no list");
+    RunEvent(*form_, control, Event::Click);
+    return *this;
+}
+
+At& At::PickDay(std::string_view calendar, JulianValue day) {
+    ControlEntry& control = Usable(calendar);
+    if (!Reach(control)) return *this;
+    std::get<Calendar*>(control.Where)->Day = day;
+    RunEvent(*form_, control, Event::Click);
+    return *this;
+}
+
+At& At::Enter(std::string_view name) {
+    Reach(Usable(name));
+    return *this;
+}
+
+At& At::Press(std::string_view name, Event key) {
+    ControlEntry& control = Usable(name);
+    if (Reach(control)) RunEvent(*form_, control, key);
+    return *this;
+}
+
+At& At::Close() {
+    if (form_->Shown) CloseForm(*form_);
+    return *this;
+}
+
+ControlEntry& At::Usable(std::string_view name) const {
+    ControlEntry* control = form_->Find(name);
+    if (control == nullptr) Misuse(*form_, name, "is not in the form's table");
+    if (!form_->Shown) Misuse(*form_, name, "is on a form that isn't shown");
+    if (!control->Shared().Visible || !control->Shared().Enabled) Misuse(*form_, name, "is hidden or disabled");
+    return *control;
+}
+
+bool At::Reach(ControlEntry& control) {
+    if (!held_ && !MoveFocus(*form_, &control)) held_ = true;
+    return !held_;
+}
+
+}  // namespace veraqua

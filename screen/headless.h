@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "screen/forms.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+/// A screen without windows, for scripts: the command line and the tests say beforehand what the user does on each form
+/// that is shown to him alone. One that is still shown afterwards is left as by its window's frame.
+class HeadlessScreen : public Screen {
+  public:
+    /// What the user does each time `form` is shown modally.
+    void WhenShown(FormName form, std::function<void()> doing) { doings_[form] = std::move(doing); }
+
+    void Present(FormTable&) override {}
+    void RunModal(FormTable& form) override;
+    void Withdraw(FormTable&) override {}
+    void PutFocus(FormTable&, ControlEntry&, bool) override {}
+    PrintOutcome PrintImage(FormTable&) override { return {PrintEnding::Failed, NoPrinter}; }
+    PrintOutcome Print(const PrintedDocument&) override { return {PrintEnding::Failed, NoPrinter}; }
+    /// Waits until the form that began it is on the screen.
+    void StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) override;
+    void CancelGet() override { waiting_ = nullptr; }
+    bool OpenDocument(const std::string&) override { return false; }
+    void ChooseWeatherSource() override { ShowModal(FormName::frmKESTA); }
+
+  private:
+    static constexpr const char* NoPrinter = "There is no printer here.";
+
+    void Carry(const std::string& url, const std::function<void(const HttpProgress&)>& progress);
+
+    std::map<FormName, std::function<void()>> doings_;
+    std::function<void()> waiting_;
+};
+
+/// The user at a form, by the names of its controls. What can't be seen or is disabled can't be used: that is a mistake
+/// of the script, a std::logic_error.
+///   At(FormName::frmAddWater).Type("txtRainDate", "7/3/2003").Type("txtRainfall", "0.5").Click("cmdOKRain");
+class At {
+  public:
+    explicit At(FormName form) : form_(&FormOf(form)) {}
+    explicit At(FormTable& form) : form_(&form) {}
+
+    At& Type(std::string_view box, std::string_view text);
+    At& Click(std::string_view control);
+    /// Picks row `position`, from 0, of a list.
+    At& Pick(std::string_view list, int position);
+    /// Picks a day in a calendar.
+    At& PickDay(std::string_view calendar, JulianValue day);
+    /// Goes into a control, which leaves the one before.
+    At& Enter(std::string_view control);
+    At& Press(std::string_view control, Event key);
+    /// Closes the window by its frame.
+    At& Close();
+
+    /// Whether a check has kept the user where he was. What he was to do after it is not done.
+    bool Held() const { return held_; }
+
+  private:
+    ControlEntry& Usable(std::string_view name) const;
+    /// The user's focus goes to `control`. False if he is held, now or since an earlier step.
+    bool Reach(ControlEntry& control);
+
+    FormTable* form_;
+    bool held_ = false;
+};
+
+}  // namespace veraqua

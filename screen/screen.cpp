@@ -1,0 +1,47 @@
+#include "screen/screen.h"
+
+#include <cassert>
+
+#include "screen/forms.h"
+
+namespace veraqua {
+
+namespace {
+
+Screen* installed = nullptr;
+
+void PutFocusOn(const Control& control, bool selectText) {
+    for (FormTable* form : AllForms()) {
+        ControlEntry* entry = form->Find(control);
+        if (entry == nullptr) continue;
+        form->Focused = &control;
+        TheScreen().PutFocus(*form, *entry, selectText);
+        return;
+    }
+}
+
+}  // namespace
+
+Screen& TheScreen() {
+    assert(installed != nullptr);
+    return *installed;
+}
+
+void InstallScreen(Screen& screen) { installed = &screen; }
+
+void Focus(const Control& control) { PutFocusOn(control, false); }
+
+void SelectText(const TextBox& box) { PutFocusOn(box, true); }
+
+void PrintForm(FormName form, std::string_view failureText) {
+    const PrintOutcome outcome = TheScreen().PrintImage(FormOf(form));
+    if (outcome.Ending == PrintEnding::Failed) TheScreen().Tell(failureText.empty() ? outcome.Reason : failureText);
+}
+
+void PrintDocument(const PrintedDocument& document, std::string_view sentText) {
+    const PrintOutcome outcome = TheScreen().Print(document);
+    if (outcome.Ending == PrintEnding::Failed) TheScreen().Tell(outcome.Reason);
+    if (outcome.Ending == PrintEnding::Printed) TheScreen().Tell(sentText);
+}
+
+}  // namespace veraqua

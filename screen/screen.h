@@ -1,0 +1,106 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/ask.h"
+#include "core/failure.h"
+#include "screen/form.h"
+
+namespace veraqua {
+
+struct Font {
+    std::string Family;  ///< any serif for "Times Roman" and "Rockwell", any of fixed pitch for "Courier New"
+    int Points = 0;
+
+    bool operator==(const Font&) const = default;
+};
+
+struct PrintedLine {
+    std::string Text;
+    Font Face;
+
+    bool operator==(const PrintedLine&) const = default;
+};
+
+/// A document for the printer, line after line; the printer breaks the pages.
+struct PrintedDocument {
+    std::string Title;  ///< for the print dialog and the file name of a PDF
+    std::vector<PrintedLine> Lines;
+};
+
+enum class PrintEnding {
+    Printed,
+    Left,    ///< the user left the print dialog: nothing is said
+    Failed,  ///< `Reason` says why
+};
+
+struct PrintOutcome {
+    PrintEnding Ending = PrintEnding::Printed;
+    std::string Reason;
+};
+
+/// How a request to the weather network goes on, by the numbers that the form knows.
+struct HttpProgress {
+    static constexpr int Resolving = 1;
+    static constexpr int Connecting = 3;
+    static constexpr int Connected = 4;
+    static constexpr int Error = 11;
+    static constexpr int Complete = 12;
+
+    int State = Resolving;
+    HttpReply Reply;  ///< with Error and Complete
+};
+
+/// All that a form asks of the outside. The desktop, the command line and the tests each make it real. It knows forms
+/// by their tables only.
+class Screen : public Ask {
+  public:
+    /// Brings a form to the user; it is loaded and filled.
+    virtual void Present(FormTable& form) = 0;
+
+    /// The same, and lets the user work on it alone until it is no longer `Shown`.
+    virtual void RunModal(FormTable& form) = 0;
+
+    /// Takes a form away from the user.
+    virtual void Withdraw(FormTable& form) = 0;
+
+    /// Puts the keyboard on a control; with `selectText` the text in it is selected.
+    virtual void PutFocus(FormTable& form, ControlEntry& control, bool selectText) = 0;
+
+    /// Prints the image of a form, or a document, through the platform's dialog.
+    virtual PrintOutcome PrintImage(FormTable& form) = 0;
+    virtual PrintOutcome Print(const PrintedDocument& document) = 0;
+
+    /// Begins an HTTP GET and returns. `progress` is called from then on, while the user goes on working; after Error
+    /// or Complete it isn't called again.
+    virtual void StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) = 0;
+
+    /// Ends the request in work; `progress` isn't called again.
+    virtual void CancelGet() = 0;
+
+    /// Opens a file of the data directory in the platform's viewer. False if there is none for it.
+    virtual bool OpenDocument(const std::string& path) = 0;
+
+    /// An event has failed and is over.
+    virtual void Failed(const RunTimeFailure& failure) = 0;
+};
+
+/// The screen of this process.
+Screen& TheScreen();
+void InstallScreen(Screen& screen);
+
+/// The keyboard goes to `control`, and its text is selected.
+void Focus(const Control& control);
+void SelectText(const TextBox& box);
+
+/// Prints `form`; on failure tells `failureText`, or the platform's reason where it is empty.
+void PrintForm(FormName form, std::string_view failureText = {});
+
+/// Prints `document` and then tells `sentText`. On failure tells the platform's reason; neither where the user left the
+/// dialog.
+void PrintDocument(const PrintedDocument& document, std::string_view sentText);
+
+}  // namespace veraqua
