@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/cli_ask.h"
+#include "cli/cli_screen.h"
 #include "cli/json_forms.h"
 #include "core/files.h"
 
@@ -32,7 +32,7 @@ struct GlobalOptions {
 class Session {
   public:
     GlobalOptions Options;
-    CliAsk Outside;
+    CliScreen Outside;
 
     /// Takes today and the answer from the options. False after a message if a date was refused.
     bool Prepare();

@@ -81,6 +81,9 @@ class Screen : public Ask {
     /// Ends the request in work; `progress` isn't called again.
     virtual void CancelGet() = 0;
 
+    /// Puts `day` in the place of the computer's date until the program ends; the clock itself is never set.
+    virtual void SetNow(JulianValue day) = 0;
+
     /// Opens a file of the data directory in the platform's viewer. False if there is none for it.
     virtual bool OpenDocument(const std::string& path) = 0;
 

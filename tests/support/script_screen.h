@@ -41,6 +41,7 @@ class ScriptScreen : public Scripted<HeadlessScreen> {
     PrintOutcome Print(const PrintedDocument& document) override { return Printed.push_back(document), Printer; }
     bool OpenDocument(const std::string& path) override { return OpenedDocuments.push_back(path), DocumentOpens; }
     void Failed(const RunTimeFailure& failure) override { Failures.emplace_back(failure.what()); }
+    void SetNow(JulianValue day) override { Today = day; }
     void ChooseWeatherSource() override {
         ++WeatherSourceChosen;
         WeatherSource ? WeatherSource() : HeadlessScreen::ChooseWeatherSource();

@@ -1,4 +1,4 @@
-#include "cli/cli_ask.h"
+#include "cli/cli_screen.h"
 
 #include <unistd.h>
 
@@ -30,53 +30,48 @@ std::string OneLine(std::string_view text) {
 
 }  // namespace
 
-JulianValue CliAsk::ClockDate() {
+JulianValue CliScreen::ClockDate() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
     return JulianFromDate(local.tm_mon + 1, local.tm_mday, local.tm_year + 1900);
 }
 
-void CliAsk::Tell(std::string_view text, std::string_view title, Icon) {
+void CliScreen::Tell(std::string_view text, std::string_view title, Icon) {
     ClearLine();
     Say(fmt::format("{}: {}\n", title, OneLine(text)));
 }
 
-bool CliAsk::YesNo(std::string_view text, std::string_view title, Icon, bool) {
+bool CliScreen::YesNo(std::string_view text, std::string_view title, Icon, bool) {
     ClearLine();
     Say(fmt::format("{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no"));
     return answer_;
 }
 
-HttpReply CliAsk::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
+HttpReply CliScreen::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
     return HttpGet(url, state);
 }
 
-void CliAsk::Progress(std::string_view what, std::size_t done, std::size_t total) {
+void CliScreen::Progress(std::string_view what, std::size_t done, std::size_t total) {
     if (done >= total)
         ClearLine();
     else
         ShowState(fmt::format("{} {} of {}", what, done + 1, total));
 }
 
-void CliAsk::ShowState(std::string_view text) {
+void CliScreen::ShowState(std::string_view text) {
     if (!progressAllowed_ || std::chrono::steady_clock::now() - begun_ < Patience || isatty(STDERR_FILENO) == 0) return;
     Say(fmt::format("\r\033[K{}", text));
     std::fflush(stderr);
     lineShown_ = true;
 }
 
-void CliAsk::ClearLine() {
+void CliScreen::ClearLine() {
     if (lineShown_) Say("\r\033[K");
     lineShown_ = false;
 }
 
-void CliAsk::ChooseWeatherSource() {
-    State.ReportCancelled = true;
-    State.DownloadFailed = true;
-}
-
-void CliAsk::EndProgram() {
+void CliScreen::EndProgram() {
     ClearLine();
     std::exit(1);
 }

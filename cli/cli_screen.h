@@ -3,18 +3,19 @@
 #include <chrono>
 #include <string>
 
-#include "core/ask.h"
+#include "screen/headless.h"
 
 namespace veraqua {
 
 /// The command line as the outside of the calculating rooms: messages go to stderr, one line each; every question gets
 /// the one answer that was given as an option.
-class CliAsk : public Ask {
+class CliScreen : public HeadlessScreen {
   public:
     /// The local date of the computer's clock.
     static JulianValue ClockDate();
 
-    void SetNow(JulianValue today) { now_ = today; }
+    CliScreen() { InstallScreen(*this); }
+
     void SetAnswer(bool yes) { answer_ = yes; }
 
     /// Whether long work may show a progress line; it does so only where stderr is a terminal.
@@ -25,8 +26,9 @@ class CliAsk : public Ask {
     JulianValue Now() const override { return now_; }
     HttpReply Get(const std::string& url, const std::function<void(std::string_view)>& state) override;
     void Progress(std::string_view what, std::size_t done, std::size_t total) override;
-    /// There is no chooser on the command line: the weather check ends as when it was left without a choice.
-    void ChooseWeatherSource() override;
+    void SetNow(JulianValue today) override { now_ = today; }
+    /// Ends the command: there is nobody to go on with the form.
+    void Failed(const RunTimeFailure&) override { throw; }
     [[noreturn]] void EndProgram() override;
 
     /// Shows a passing text in the progress line.
