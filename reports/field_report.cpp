@@ -10,6 +10,7 @@
 #include "core/state.h"
 #include "engine/soil_water.h"
 #include "reports/field_table.h"
+#include "reports/prediction_text.h"
 #include "reports/report_file.h"
 #include "reports/report_text.h"
 #include "reports/soil_lines.h"
@@ -42,7 +43,7 @@ std::vector<std::string> PredictionLines(const FieldFile& file, const StatRecord
         const auto& cuttings = file.Lists.Cuttings;
         const JulianValue growthOnset = cuttings.empty() ? file.Hay.PlantDay : cuttings.back().Day;
         lines.push_back(" Growth Onset Date:      " + ReportDate(growthOnset));
-        lines.push_back(" Next Predicted Cutting: " + ReportDate(row.NextCutDay, "No Data Yet!"));
+        lines.push_back(" Next Predicted Cutting: " + NextCutting(row));
     }
     return lines;
 }

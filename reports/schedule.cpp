@@ -4,8 +4,8 @@
 
 #include "core/directory.h"
 #include "core/state.h"
+#include "reports/prediction_text.h"
 #include "reports/report_file.h"
-#include "reports/report_text.h"
 
 namespace veraqua {
 
@@ -13,11 +13,8 @@ namespace {
 
 /// What the row says of its next irrigation.
 std::string NextIrrigation(const StatRecord& row) {
-    if (row.NextIrrAmount > 0)
-        return ReportDate(row.NextIrrDay) + "\t" + IrrigationAmount(row.NextIrrAmount, State.EnglishUnits);
-    if (row.NextIrrAmount == AmountHarvest) return "Harvest Soon!";
-    if (row.NextIrrAmount == AmountNotRequired) return "Not Required";
-    return "No Data Yet!";
+    const PredictionText text = PlainPrediction(row, State.EnglishUnits);
+    return text.Amount.empty() ? text.Date : text.Date + "\t" + text.Amount;
 }
 
 }  // namespace
