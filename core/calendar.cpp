@@ -8,6 +8,8 @@ namespace veraqua {
 
 namespace {
 
+constexpr std::string_view DateSeparators = " -/.";
+
 constexpr std::string_view BadForm = "Please enter a date (greater than 1900) formated like: MM/DD/YYYY";
 
 std::string LongText(std::int64_t month, std::int64_t day, std::int64_t year) {
@@ -55,6 +57,18 @@ std::string_view WhyNoDate(const DateNumbers& date) {
     return {};
 }
 
+/// Takes a number of 1 to `mostDigits` digits, and the separators behind it, off the front of `text`; -1 if none is
+/// there.
+int TakeNumber(std::string_view& text, std::size_t mostDigits) {
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    if (digits == 0 || digits > mostDigits) return -1;
+    int number = 0;
+    for (const char c : text.substr(0, digits)) number = number * 10 + (c - '0');
+    text.remove_prefix(digits);
+    text.remove_prefix(std::min(text.find_first_not_of(DateSeparators), text.size()));
+    return number;
+}
+
 }  // namespace
 
 std::string JulianToLongText(JulianValue julian) {
@@ -78,6 +92,14 @@ TypedDate ReadTypedDate(std::string_view text) {
     return {JulianFromDate(static_cast<int>(date.Month), static_cast<int>(date.Day), date.Year),
             LongText(date.Month, date.Day, date.Year),
             {}};
+}
+
+bool IsCalendarDay(std::string_view text) {
+    const int month = TakeNumber(text, 2);
+    const int day = TakeNumber(text, 2);
+    const int year = TakeNumber(text, 4);
+    if (month < 1 || month > 12 || day < 1 || year < 0 || !text.empty()) return false;
+    return DateFromJulian(JulianFromDate(month, day, year)) == Date{month, day, year};
 }
 
 }  // namespace veraqua

@@ -126,6 +126,10 @@ struct TypedDate {
 /// are. `text` comes without blanks around it. `ask.h` has `ValidateDate`, which tells the user the reason.
 TypedDate ReadTypedDate(std::string_view text);
 
+/// Whether `text` is a real calendar day: month, day and a year of 1 to 4 digits, with blanks, "-", "/" or "." between
+/// them. What `ReadTypedDate` then makes of it is another question.
+bool IsCalendarDay(std::string_view text);
+
 static_assert(JulianFromDate(1, 1, 1900) == 693902);
 static_assert(JulianFromDate(1, 1, 2000) == 730426);
 static_assert(JulianFromDate(12, 31, 2000) == 730791);
