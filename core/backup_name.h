@@ -10,7 +10,7 @@ namespace veraqua {
 /// The name under which a harvested field's file is kept: the whole field ID with its trailing blanks, "_", the date of
 /// the harvest as DDMMYY, "_", a blank and a counter, ".dat": "NORTH 30  _300626_ 1.dat". With a counter of one digit
 /// it has 24 characters, by which backups are told from other files. The counter is the first from 1 whose name is free
-/// in the data directory.
+/// in the data directory. What no file name can hold ("/" and the NUL byte) becomes "-".
 std::string FreeBackupName(const FixedText<10>& fieldId, JulianValue harvestDay);
 
 }  // namespace veraqua

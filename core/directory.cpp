@@ -127,6 +127,21 @@ void SaveFieldRow(Ask& ask, int row) {
     bothFiles.Commit();
 }
 
+void WriteDirectory(const std::vector<int>& rows) {
+    std::string stat = rows.empty() ? BlankStatFile(MaxFields) : "";
+    std::string updates = rows.empty() ? BlankUpdatesFile(MaxFields) : "";
+    Writer statWriter(stat);
+    Writer updatesWriter(updates);
+    for (const int row : rows) {
+        Layout(statWriter, State.Stat[row]);
+        updatesWriter(State.Updates[row]);
+    }
+    files::ChangeSet bothFiles;
+    files::Write(StatFile, std::move(stat));
+    files::Write(UpdatesFile, std::move(updates));
+    bothFiles.Commit();
+}
+
 void StartDirectory() {
     State.Stat = {};
     State.Updates = {};
@@ -134,11 +149,7 @@ void StartDirectory() {
     State.LatestLastDay = 0;
     State.CurrentField = 0;
     if (!files::Exists(StatFile)) {
-        if (!files::MayWrite()) return;
-        files::ChangeSet firstStart;
-        files::Write(StatFile, BlankStatFile(MaxFields));
-        files::Write(UpdatesFile, BlankUpdatesFile(MaxFields));
-        firstStart.Commit();
+        if (files::MayWrite()) WriteDirectory({});
         return;
     }
     LoadFieldDirectory();

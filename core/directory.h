@@ -29,6 +29,9 @@ void LoadFieldDirectory();
 /// Writes row `row` of both files. If one of them has vanished it tells so and ends the program.
 void SaveFieldRow(Ask& ask, int row);
 
+/// Writes both files anew with `rows` of memory as the rows 1, 2 and so on; without any they are as on a first start.
+void WriteDirectory(const std::vector<int>& rows);
+
 /// Sets the directory's state to its start and loads it, making both files on a first start. A row whose field file is
 /// missing is cleared in memory. This is what is left to do after the last field has gone.
 void StartDirectory();

@@ -47,6 +47,23 @@ constexpr void Layout(Archive& archive, Row& row)
 }
 static_assert(StoredSize<StatRecord>() == 41);
 
+/// What the directory knew of a harvested field, kept beside the backup of its file.
+struct HarvestedRow {
+    StatRecord Row;
+    JulianValue DepletionDay = 0;  ///< day of the last depletion set by hand; 0: never
+
+    bool operator==(const HarvestedRow&) const = default;
+};
+
+template <class Archive, class Harvested>
+constexpr void Layout(Archive& archive, Harvested& harvested)
+    requires std::same_as<std::remove_const_t<Harvested>, HarvestedRow>
+{
+    Layout(archive, harvested.Row);
+    archive(harvested.DepletionDay);  // byte 41
+}
+static_assert(StoredSize<HarvestedRow>() == 45);
+
 // ---------------------------------------------------------------------------------------------------- the field files
 
 /// The highest index of a Capacity or Content array: the season run keeps a copy of 21 zones.

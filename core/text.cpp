@@ -17,6 +17,13 @@ std::string LowerCase(std::string_view text) {
     return lower;
 }
 
+char UpperCaseOfLatin1(char c) {
+    const auto code = static_cast<unsigned char>(c);
+    constexpr unsigned char division = 0xF7;  // stands among the letters
+    const bool isLower = (code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != division);
+    return isLower ? static_cast<char>(code - ('a' - 'A')) : c;
+}
+
 std::string Utf8FromLatin1(std::string_view bytes) {
     std::string utf8;
     utf8.reserve(bytes.size());

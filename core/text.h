@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -13,6 +14,9 @@ std::string_view Trimmed(std::string_view text);
 
 /// `text` in lower case, ASCII letters only: file names are compared in this form.
 std::string LowerCase(std::string_view text);
+
+/// In upper case, of single-byte text; accented letters too.
+char UpperCaseOfLatin1(char c);
 
 /// The data files hold single-byte text, Latin-1; everything else in the program is UTF-8.
 std::string Utf8FromLatin1(std::string_view bytes);
@@ -48,6 +52,12 @@ class FixedText {
     std::string Text() const { return std::string(Trimmed(Whole())); }
 
     char First() const { return bytes_[0]; }
+
+    FixedText UpperCase() const {
+        FixedText upper;
+        std::transform(bytes_.begin(), bytes_.end(), upper.bytes_.begin(), UpperCaseOfLatin1);
+        return upper;
+    }
 
     std::array<char, Width>& Bytes() { return bytes_; }
     const std::array<char, Width>& Bytes() const { return bytes_; }

@@ -90,7 +90,7 @@ template <class F>
 class FormFor {
   public:
     FormFor(F& form, FormName name, std::string_view text) : form_(&form), table_(name, text, form) {
-        table_.Reset = [&form] { form = F{}; };
+        table_.Reset = [&form] { form = F(); };
     }
 
     using Handler = void (*)(F&);

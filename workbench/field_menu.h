@@ -11,6 +11,8 @@
 namespace veraqua {
 
 struct frmField : Form {
+    frmField() { Caption = "Welcome to Veraqua - Main Field Menu"; }
+
     // Picking a field
     Label lblField{"Select Field"};
     ComboBox ComboField;
@@ -115,12 +117,17 @@ struct frmField : Form {
     bool DeletePending = false;         ///< the user was sent to pick the field to harvest
     bool RestorePending = false;        ///< likewise the backup to restore
     std::vector<std::string> FieldIds;  ///< as listed in `ComboField`
+    std::vector<std::string> Backups;   ///< file names, likewise while a harvested field is to be picked
+    std::string BackupName;             ///< of the field that the last harvest has ended; empty: it ended none
 };
 
 FormTable TableOf(frmField& form);
 
 /// Hides every input and display of the workbench and forgets what was picked.
 void form_clear(frmField& form);
+
+/// The same, and names no field in the title and the status bar.
+void ShowNoField(frmField& form);
 
 /// Lists the fields in use for picking.
 void ListFields(frmField& form);

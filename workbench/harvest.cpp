@@ -1,0 +1,192 @@
+#include "workbench/harvest.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "catch_up/field_updates.h"
+#include "core/archive.h"
+#include "core/backup_name.h"
+#include "core/backups.h"
+#include "core/directory.h"
+#include "core/field_file.h"
+#include "core/files.h"
+#include "core/state.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+#include "workbench/field_choice.h"
+
+namespace veraqua {
+
+namespace {
+
+/// "NORTH 30  _300626_ 1.row" beside "NORTH 30  _300626_ 1.dat".
+std::string RowFileName(const std::string& backupName) { return backupName.substr(0, backupName.rfind('.')) + ".row"; }
+
+std::string RowFileBytes(int row) {
+    const HarvestedRow harvested{State.Stat[row], State.Updates[row]};
+    std::string bytes;
+    Writer writer(bytes);
+    Layout(writer, harvested);
+    return bytes;
+}
+
+/// Nothing if the backup has none.
+std::optional<HarvestedRow> ReadRowFile(const std::string& backupName) {
+    const std::string name = RowFileName(backupName);
+    const auto bytes = files::Read(name);
+    if (!bytes) return std::nullopt;
+    HarvestedRow harvested;
+    Reader reader(*bytes, name);
+    Layout(reader, harvested);
+    const StatRecord& row = harvested.Row;
+    for (const JulianValue day : {row.LastDay, row.NextIrrDay, row.NextCutDay, harvested.DepletionDay})
+        if (!IsPossibleDay(day) || row.LastDay == 0)
+            throw RunTimeFailure(fmt::format("{}: the days of the field can't be true.", name));
+    return harvested;
+}
+
+/// Rows 1 to n for the n fields that are left when `ended` goes; gaps close.
+void RenumberWithout(int ended) {
+    std::vector<int> left = RowsInUse();
+    left.erase(std::remove(left.begin(), left.end(), ended), left.end());
+    WriteDirectory(left);
+    int row = 0;
+    for (const int old : left)
+        if (++row != old) files::Rename(FieldFileName(old), FieldFileName(row));
+}
+
+/// What the directory says of a field that has not been run yet.
+HarvestedRow RowAtPlanting(const FieldFile& file) {
+    HarvestedRow start;
+    start.Row.LastDay = file.Header().PlantDay;
+    start.Row.MadNow = file.Header().MAD;
+    return start;
+}
+
+/// A name that the user typed could be that of a field in use.
+void ExpectBackup(const std::string& name) {
+    const std::vector<Backup> backups = FindBackups();
+    if (std::none_of(backups.begin(), backups.end(), [&](const Backup& backup) { return backup.FileName == name; }))
+        throw RunTimeFailure(fmt::format("{} is no harvested field in the data directory.", name));
+}
+
+bool MayBeRestored(const FieldFile& file) {
+    if (LowestFreeRow() == 0) {
+        TheScreen().Tell("Veraqua keeps at most 100 fields.");
+        return false;
+    }
+    const auto id = file.Header().FieldId.UpperCase();
+    const std::vector<int> rows = RowsInUse();
+    if (std::none_of(rows.begin(), rows.end(), [&](int row) { return State.Stat[row].FieldId.UpperCase() == id; }))
+        return true;
+    TheScreen().Tell("A field in use has the Field ID Code " + file.Header().FieldId.Text() +
+                         ". Harvest it before you restore this one.",
+                     "Duplicate Field ID");
+    return false;
+}
+
+/// Puts the backup back as the field of `row`, as one set of changes.
+void PutBack(const std::string& backupName, const FieldFile& file, const std::optional<HarvestedRow>& kept, int row) {
+    const HarvestedRow harvested = kept ? *kept : RowAtPlanting(file);
+    files::ChangeSet changes;
+    files::Rename(backupName, FieldFileName(row));
+    files::Remove(RowFileName(backupName));
+    State.Stat[row] = harvested.Row;
+    State.Stat[row].FieldId = file.Header().FieldId;
+    State.Stat[row].CropName = file.Header().CropName;
+    State.Updates[row] = harvested.DepletionDay;
+    SaveFieldRow(TheScreen(), row);
+    if (!kept) UpdateRows(TheScreen(), {row});
+    changes.Commit();
+    State.FieldCount = static_cast<std::int16_t>(RowsInUse().size());
+}
+
+}  // namespace
+
+std::string HarvestField(int row) {
+    constexpr std::string_view notBackedUp = "Your field was NOT backed up.  ";
+    const std::string backup = FreeBackupName(LoadFieldFile(row).Header().FieldId, TheScreen().Now());
+    std::string failing(notBackedUp);
+    try {
+        files::ChangeSet changes;
+        files::Rename(FieldFileName(row), backup);
+        files::Write(RowFileName(backup), RowFileBytes(row));
+        failing = "Field file renumbering error (for files past deleted one).  ";
+        RenumberWithout(row);
+        failing = notBackedUp;
+        changes.Commit();
+        TheScreen().Tell("Your field was deleted and backed up to " + backup, "Field Harvested/Deleted");
+    } catch (const RunTimeFailure& failure) {
+        // A change that is recorded and will be completed counts: it is what the files are read as.
+        const bool isRecorded = files::Exists(backup);
+        TheScreen().Tell((isRecorded ? "" : failing) + failure.what(), "File Error");
+        if (!isRecorded) return "";
+    }
+    StartDirectory();
+    return backup;
+}
+
+std::optional<int> RestoreField(const std::string& backupName) {
+    ExpectBackup(backupName);
+    const FieldFile file = LoadBackup(backupName);
+    if (!MayBeRestored(file)) return std::nullopt;
+    const int row = LowestFreeRow();
+    const std::optional<HarvestedRow> kept = ReadRowFile(backupName);
+    try {
+        PutBack(backupName, file, kept, row);
+    } catch (const RunTimeFailure&) {
+        StartDirectory();
+        throw;
+    }
+    TheScreen().Tell(fmt::format("Field ID = {} was restored from {}.{}", file.Header().FieldId.Text(), backupName,
+                                 kept ? "" : "\nIts depletion date was not kept. It was run from planting."),
+                     "Field Restored");
+    return row;
+}
+
+void mnuDelete_Click(frmField& form) {
+    ForgetPick(form);
+    form.BackupName.clear();
+    if (!ExpectField("Please select a field to delete.")) {
+        cmd_Cancel_Click(form);
+        form.cmd_Cancel.Visible = true;
+        form.DeletePending = true;
+        ListFields(form);
+        return;
+    }
+    const std::string id = LoadFieldFile(State.CurrentField).Header().FieldId.Whole();
+    if (!TheScreen().YesNo("Please confirm you wish to harvest/delete Field ID = " + id, "Delete Confirmation",
+                           Icon::Question, true))
+        return;
+    form.BackupName = HarvestField(State.CurrentField);
+    if (form.BackupName.empty()) return;
+    ShowNoField(form);
+    if (State.FieldCount > 0) ListFields(form);
+}
+
+void mnuRestore_Click(frmField& form) {
+    const std::vector<Backup> backups = FindBackups();
+    if (backups.empty()) {
+        TheScreen().Tell("No deleted fields found on disk!", "Warning");
+        return;
+    }
+    cmd_Cancel_Click(form);
+    form.cmd_Cancel.Visible = true;
+    form.RestorePending = true;
+    OfferList(form);
+    form.Backups.clear();
+    for (const Backup& backup : backups) {
+        form.Backups.push_back(backup.FileName);
+        form.ComboField.Add(backup.FileName + "  " + backup.CropName, static_cast<int>(form.Backups.size()));
+    }
+    Focus(form.ComboField);
+}
+
+void RestorePicked(frmField& form, int number) {
+    if (!RestoreField(form.Backups.at(static_cast<std::size_t>(number - 1)))) return;
+    cmd_Cancel_Click(form);
+    ListFields(form);
+}
+
+}  // namespace veraqua
