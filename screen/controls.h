@@ -21,11 +21,14 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
+/// Backgrounds that warn or reassure, and inks. Text on them is black, in a dark theme too.
+namespace colours {
 constexpr Colour Red{255, 0, 0};
 constexpr Colour Orange{255, 128, 0};
 constexpr Colour Yellow{255, 255, 0};
 constexpr Colour Green{128, 255, 128};
 constexpr Colour Blue{0, 0, 255};
+}  // namespace colours
 
 /// What all controls share.
 struct Control {
@@ -37,29 +40,33 @@ struct Control {
 
 /// "&&" in a caption shows as one "&", in every kind of control.
 struct Label : Control {
-    explicit Label(std::string caption = {}) : Caption(std::move(caption)) {}
+    Label() = default;
+    explicit Label(std::string caption) : Caption(std::move(caption)) {}
 
     std::string Caption;
 };
 
 /// A frame or a backing shape; what it surrounds are controls of their own.
 struct Frame : Control {
-    explicit Frame(std::string caption = {}) : Caption(std::move(caption)) {}
+    Frame() = default;
+    explicit Frame(std::string caption) : Caption(std::move(caption)) {}
 
     std::string Caption;
 };
 
 struct TextBox : Control {
-    explicit TextBox(std::string text = {}, std::size_t longest = 0) : Text(std::move(text)), Longest(longest) {}
+    TextBox() = default;
+    explicit TextBox(std::string text, std::size_t longest = 0) : Text(std::move(text)), Longest(longest) {}
 
-    std::string Text;       ///< "\n" is a line break in boxes of several lines
-    std::size_t Longest;    ///< characters that can be typed; 0: any number
-    bool Typed = false;     ///< the user has changed the text since the form was loaded
-    bool ReadOnly = false;  ///< shows only
+    std::string Text;         ///< "\n" is a line break in boxes of several lines
+    std::size_t Longest = 0;  ///< characters that can be typed; 0: any number
+    bool Typed = false;       ///< the user has changed the text since the form was loaded
+    bool ReadOnly = false;    ///< shows only
 };
 
 struct Button : Control {
-    explicit Button(std::string caption = {}, std::string toolTip = {}) : Caption(std::move(caption)) {
+    Button() = default;
+    explicit Button(std::string caption, std::string toolTip = {}) : Caption(std::move(caption)) {
         ToolTip = std::move(toolTip);
     }
 
@@ -93,10 +100,11 @@ struct ListBox : ItemList {};
 
 /// A drop-down list. Its text is that of the row selected, or what was typed where it can be edited.
 struct ComboBox : ItemList {
-    explicit ComboBox(bool editable = false) : Editable(editable) {}
+    ComboBox() = default;
+    explicit ComboBox(bool editable) : Editable(editable) {}
 
     std::string Text;
-    bool Editable;
+    bool Editable = false;
 
     void Clear() {
         ItemList::Clear();
@@ -110,19 +118,20 @@ struct ComboBox : ItemList {
 
 /// One of a group of which only one is chosen; its form keeps the group.
 struct OptionButton : Control {
-    explicit OptionButton(std::string caption = {}, bool chosen = false)
-        : Caption(std::move(caption)), Chosen(chosen) {}
+    OptionButton() = default;
+    explicit OptionButton(std::string caption, bool chosen = false) : Caption(std::move(caption)), Chosen(chosen) {}
 
     std::string Caption;
-    bool Chosen;
+    bool Chosen = false;
 };
 
 /// An entry of the menu bar (level 1) or of a menu below it; one with entries of the next level behind it opens these.
 struct MenuItem : Control {
-    explicit MenuItem(std::string caption = {}, int level = 1) : Caption(std::move(caption)), Level(level) {}
+    MenuItem() = default;
+    explicit MenuItem(std::string caption, int level = 1) : Caption(std::move(caption)), Level(level) {}
 
     std::string Caption;
-    int Level;
+    int Level = 1;
 };
 
 struct StatusBar : Control {
