@@ -10,11 +10,13 @@
 #include "core/files.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "core/units.h"
 #include "engine/season_run.h"
 #include "engine/soil_water.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/change_line.h"
+#include "workbench/event_run.h"
 #include "workbench/field_choice.h"
 
 namespace veraqua {
@@ -70,7 +72,8 @@ RootZoneNow LookAtRootZone(const FieldFile& file) {
 }
 
 std::string WaterText(float water) {
-    return State.EnglishUnits ? Masked(water / 25.4 * 0.3048, "0.0") + " in/ft" : Masked(water, "00.0") + "mm/m";
+    return State.EnglishUnits ? Masked(water / MillimetresPerInch * MetresPerFoot, "0.0") + " in/ft"
+                              : Masked(water, "00.0") + "mm/m";
 }
 
 /// The day from which the next run goes on, with the depletion set by hand: today, or where the field stands behind
@@ -161,7 +164,6 @@ void cmdDeplOK_Click(frmField& form) {
     if (!file) return;
     const RootZoneNow zone = LookAtRootZone(*file);
     const int current = State.CurrentField;
-    const StatRecord before = State.Stat[current];
     State.Stat[current].Depletion = ToInteger16(*depletion, "the depletion");
     if (zone.View.Row + 1 >= file->Days.size()) {
         TheScreen().Tell("Can't update Depletion for this field, it's already exceeded the MAD.  Add water instead.",
@@ -178,12 +180,12 @@ void cmdDeplOK_Click(frmField& form) {
     files::ChangeSet changes;
     SaveFieldRow(TheScreen(), current);
     StoreFieldFile(current, *file);
-    UpdateField(TheScreen());
+    const std::string line = RunAfterChange();
     changes.Commit();
     TheScreen().Tell("New depletion set to: " + form.TxtNewDepl.Text +
                          "%\nNew water content in root zone set to: " + WaterText(water),
                      "");
-    ShowChange(form, ChangeLine(before, State.Stat[current]));
+    ShowChange(form, line);
 }
 
 void cmd_Reset_Click(frmField& form) {

@@ -29,7 +29,7 @@ void Load(frmField& form) {
 
 void Unload(frmField&) {
     State.CurrentField = 0;
-    Show(FormName::frmVeraqua);
+    if (IsLoaded(FormName::frmVeraqua)) Show(FormName::frmVeraqua);
 }
 
 void Leave(frmField&) { Unload(FormName::frmField); }

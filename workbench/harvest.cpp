@@ -86,8 +86,9 @@ bool MayBeRestored(const FieldFile& file) {
     return false;
 }
 
-/// Puts the backup back as the field of `row`, as one set of changes.
-void PutBack(const std::string& backupName, const FieldFile& file, const std::optional<HarvestedRow>& kept, int row) {
+/// Puts the backup back as the field of `row`, as one set of changes. Gives what else there is to be said.
+std::string_view PutBack(const std::string& backupName, const FieldFile& file, int row) {
+    const std::optional<HarvestedRow> kept = ReadRowFile(backupName);
     const HarvestedRow harvested = kept ? *kept : RowAtPlanting(file);
     files::ChangeSet changes;
     files::Rename(backupName, FieldFileName(row));
@@ -97,9 +98,12 @@ void PutBack(const std::string& backupName, const FieldFile& file, const std::op
     State.Stat[row].CropName = file.Header().CropName;
     State.Updates[row] = harvested.DepletionDay;
     SaveFieldRow(TheScreen(), row);
-    if (!kept) UpdateRows(TheScreen(), {row});
+    const bool hasRun = kept || UpdateRows(TheScreen(), {row}).front() == UpdateStatus::Done;
     changes.Commit();
     State.FieldCount = static_cast<std::int16_t>(RowsInUse().size());
+    if (kept) return "";
+    return hasRun ? "\nIts depletion date was not kept. It was run from planting."
+                  : "\nIts depletion date was not kept. It has to be run from planting.";
 }
 
 }  // namespace
@@ -132,16 +136,16 @@ std::optional<int> RestoreField(const std::string& backupName) {
     const FieldFile file = LoadBackup(backupName);
     if (!MayBeRestored(file)) return std::nullopt;
     const int row = LowestFreeRow();
-    const std::optional<HarvestedRow> kept = ReadRowFile(backupName);
+    std::string_view remark;
     try {
-        PutBack(backupName, file, kept, row);
+        remark = PutBack(backupName, file, row);
     } catch (const RunTimeFailure&) {
         StartDirectory();
         throw;
     }
-    TheScreen().Tell(fmt::format("Field ID = {} was restored from {}.{}", file.Header().FieldId.Text(), backupName,
-                                 kept ? "" : "\nIts depletion date was not kept. It was run from planting."),
-                     "Field Restored");
+    TheScreen().Tell(
+        fmt::format("Field ID = {} was restored from {}{}", file.Header().FieldId.Text(), backupName, remark),
+        "Field Restored");
     return row;
 }
 
