@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "core/state.h"
 #include "engine/curves.h"
 #include "engine/soil_water.h"
 
@@ -29,7 +30,8 @@ float KcOf(const FieldFile& file, std::size_t row) {
     return row == 0 ? 0 : file.Days[row].RootDepthOrKc;
 }
 
-/// The part of a day that needs no other day.
+}  // namespace
+
 FieldDay StateOf(const FieldFile& file, std::size_t row) {
     const DayRecord& record = file.Days[row];
     FieldDay day;
@@ -39,15 +41,15 @@ FieldDay StateOf(const FieldFile& file, std::size_t row) {
     day.GddSum = record.GddSum;
     day.EtrSum = record.EtrSum;
     day.RootDepth = file.IsHay ? file.Hay.RootMax : record.RootDepthOrKc;
-    const float capacity =
+    day.Capacity =
         SoilWaterBetween(0, day.RootDepth, CapacityGrid(file.Header(), file.Soil.Bounds), file.Soil.Capacity);
     day.Kc = KcOf(file, row);
-    day.Kd = DrynessCoefficient(day.Available, capacity);
-    day.Depletion = (1 - static_cast<double>(day.Available) / capacity) * 100;
+    day.Kd = DrynessCoefficient(day.Available, day.Capacity);
+    day.Depletion = (1 - static_cast<double>(day.Available) / day.Capacity) * 100;
     return day;
 }
 
-}  // namespace
+JulianValue StateDay(const StatRecord& row) { return std::min(row.LastDay + 1, State.TodayJulian); }
 
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file) {
     const auto irrigation = Shown(file.Lists.Irrigation);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/field_file.h"
+#include "core/units.h"
 
 /// The history of a field day by day: what its stored rows, which are sums and states, say of each day.
 namespace veraqua {
@@ -14,6 +15,7 @@ struct FieldDay {
     JulianValue Day = 0;
     int DaysAfterPlanting = 0;
     float Available = 0;   ///< water in the root zone
+    float Capacity = 0;    ///< water that the root zone can hold
     double Depletion = 0;  ///< percent; below 0 above capacity
     double Gdd = 0;        ///< of the day; negative where a cutting set the sum back
     float GddSum = 0;      ///< since planting; on hay since the last cutting
@@ -29,8 +31,24 @@ struct FieldDay {
     std::int16_t Cutting = 0;  ///< number of the day's cutting of hay; 0: none
 };
 
+/// The day of row `row`, without what needs the days before it: Gdd, Etr, Etc, and EtcSum. RunTimeFailure as below.
+FieldDay StateOf(const FieldFile& file, std::size_t row);
+
 /// All days from planting through the last row, forecast days too. RunTimeFailure where the numbers of the file can't
 /// be computed with, as with a root zone that holds no water.
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file);
+
+/// The day whose row shows the present state of the field with this row of the directory: the day after the last one
+/// with weather, but no later than today.
+JulianValue StateDay(const StatRecord& row);
+
+/// Quantities of a day in the units of the user.
+struct DayUnits {
+    bool English = false;
+
+    double Water(double mm) const { return English ? mm / MillimetresPerInch : mm; }              ///< inches, mm
+    double Heat(double celsiusDays) const { return English ? celsiusDays * 1.8 : celsiusDays; }   ///< F, C
+    double Root(double metres) const { return English ? metres * FeetPerMetreInRoots : metres; }  ///< ft, m
+};
 
 }  // namespace veraqua

@@ -1,11 +1,11 @@
 #include "reports/field_report.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <fmt/format.h>
 
 #include "core/directory.h"
-#include "core/failure.h"
 #include "core/numbers.h"
 #include "core/state.h"
 #include "engine/soil_water.h"
@@ -14,6 +14,7 @@
 #include "reports/report_file.h"
 #include "reports/report_text.h"
 #include "reports/soil_lines.h"
+#include "reports/stored_field.h"
 
 namespace veraqua {
 
@@ -21,13 +22,6 @@ namespace {
 
 std::string TotalText(double millimetres, bool english) {
     return english ? Masked(HundredthsOfInches(millimetres), "00.00") + " in" : Plain(millimetres) + " mm";
-}
-
-/// How many leachings there were before `lastDay`. The total that the report gives of them is this count, shown as if
-/// it were millimetres, and not the water that left the soil.
-double LeachingCount(const std::vector<EventRecord>& leaching, JulianValue lastDay) {
-    return static_cast<double>(std::count_if(leaching.begin(), leaching.end(),
-                                             [lastDay](const EventRecord& event) { return event.Day < lastDay; }));
 }
 
 std::string NextIrrigation(const StatRecord& row, bool english) {
@@ -48,75 +42,110 @@ std::vector<std::string> PredictionLines(const FieldFile& file, const StatRecord
     return lines;
 }
 
-std::string Joined(const std::vector<std::string>& lines) { return fmt::format("{}\n", fmt::join(lines, "\n")); }
-
-}  // namespace
-
-FieldReport GatherFieldReport(const FieldFile& file, const StatRecord& row, bool english) {
+/// The total that the report gives of leachings is their count, shown as if it were millimetres, and not the water that
+/// left the soil.
+FieldReport Gather(const FieldFile& file, std::ptrdiff_t leachings, bool english) {
     const HeaderCommon& header = file.Header();
     const DayView planting = AsOf(file, header.PlantDay);
+    const ZoneGrid capacityGrid = CapacityGrid(header, file.Soil.Bounds);
     FieldReport report;
-    report.FieldId = row.FieldId.Whole();
-    report.CropName = row.CropName.Whole();
+    report.IsHay = file.IsHay;
+    report.FieldId = header.FieldId.Whole();
+    report.CropName = header.CropName.Whole();
     report.PlantDay = ReportDate(header.PlantDay);
     report.Mad = Plain(header.MAD);
     report.Efficiency = Plain(ToSingle(header.IrrEff * 100.0, "the irrigation efficiency"));
     report.TotalIrrigation = TotalText(TotalAmount(file.Lists.Irrigation), english);
     report.TotalRainfall = TotalText(TotalAmount(file.Lists.Rain), english);
-    report.TotalLeaching = TotalText(LeachingCount(file.Lists.Leaching, row.LastDay), english);
-    report.Capacity = SoilLines(CapacityGrid(header, file.Soil.Bounds), file.Soil.Capacity, file.IsHay, english);
+    report.TotalLeaching = TotalText(static_cast<double>(leachings), english);
+    report.Division = DivisionLines(capacityGrid, english);
+    report.Capacity = SoilLines(capacityGrid, file.Soil.Capacity, file.IsHay, english);
     report.InitialContent = SoilLines(ContentGrid(header, file.Soil.Bounds), planting.Content, file.IsHay, english);
-    report.Predictions = PredictionLines(file, row, english);
     report.History = FieldTable(file, english);
     return report;
 }
 
+void Append(std::vector<std::string>& lines, const std::vector<std::string>& more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+constexpr FieldReportLabels SavedLabels{" FIELD ID:  ",         " CROP Name:  ",      " CROP Planted On:  ",
+                                        " Total Irrigation:  ", " Total Rainfall:  ", " Total Leaching:  "};
+
+}  // namespace
+
+FieldReport GatherFieldReport(const FieldFile& file, const StatRecord& row, bool english) {
+    const auto& leaching = file.Lists.Leaching;
+    FieldReport report = Gather(
+        file,
+        std::count_if(leaching.begin(), leaching.end(), [&](const EventRecord& e) { return e.Day < row.LastDay; }),
+        english);
+    report.FieldId = row.FieldId.Whole();
+    report.CropName = row.CropName.Whole();
+    report.Predictions = PredictionLines(file, row, english);
+    return report;
+}
+
+FieldReport GatherHarvestedReport(const FieldFile& file, bool english) {
+    return Gather(file, std::ssize(file.Lists.Leaching), english);
+}
+
+std::vector<std::string> FieldLines(const FieldReport& report, const FieldReportLabels& labels, JulianValue today) {
+    const auto line = [](std::string_view label, const std::string& value) { return std::string(label) + value; };
+    return {" FIELD DATA as of " + ReportDate(today),
+            "",
+            line(labels.FieldId, report.FieldId),
+            line(labels.CropName, report.CropName),
+            line(labels.PlantDay, report.PlantDay),
+            "",
+            fmt::format(" Management Allowed Deficiency (MAD):  {}%", report.Mad),
+            fmt::format(" Irrigation Efficiency:  {}%", report.Efficiency),
+            "",
+            line(labels.TotalIrrigation, report.TotalIrrigation),
+            line(labels.TotalRainfall, report.TotalRainfall),
+            line(labels.TotalLeaching, report.TotalLeaching),
+            ""};
+}
+
+std::vector<std::string> SoilAndPredictionLines(const FieldReport& report) {
+    std::vector<std::string> lines{" Soil Water Capacity"};
+    Append(lines, report.Capacity);
+    Append(lines, {"", " Initial Soil Water Content"});
+    Append(lines, report.InitialContent);
+    lines.emplace_back();
+    Append(lines, report.Predictions);
+    return lines;
+}
+
 std::string FieldReportText(const FieldReport& report, JulianValue today) {
-    return fmt::format(
-        " FIELD DATA as of {}\n"
-        "\n"
-        " FIELD ID:  {}\n"
-        " CROP Name:  {}\n"
-        " CROP Planted On:  {}\n"
-        "\n"
-        " Management Allowed Deficiency (MAD):  {}%\n"
-        " Irrigation Efficiency:  {}%\n"
-        "\n"
-        " Total Irrigation:  {}\n"
-        " Total Rainfall:  {}\n"
-        " Total Leaching:  {}\n"
-        "\n"
-        "\n"
-        " Soil Water Capacity\n"
-        "{}"
-        "\n"
-        " Initial Soil Water Content\n"
-        "{}"
-        "\n"
-        "{}"
-        " FIELD HISTORY\n"
-        "{}",
-        ReportDate(today), report.FieldId, report.CropName, report.PlantDay, report.Mad, report.Efficiency,
-        report.TotalIrrigation, report.TotalRainfall, report.TotalLeaching, Joined(report.Capacity),
-        Joined(report.InitialContent), Joined(report.Predictions), Joined(report.History));
+    std::vector<std::string> lines = FieldLines(report, SavedLabels, today);
+    lines.emplace_back();
+    Append(lines, SoilAndPredictionLines(report));
+    lines.emplace_back(" FIELD HISTORY");
+    Append(lines, report.History);
+    return fmt::format("{}\n", fmt::join(lines, "\n"));
+}
+
+std::optional<FieldReport> StoredFieldReport(Ask& ask, int row) {
+    const std::optional<FieldFile> file = StoredField(ask, row);
+    if (!file) return std::nullopt;
+    return ComputedFrom(FieldFileName(row),
+                        [&] { return GatherFieldReport(*file, State.Stat[row], State.EnglishUnits); });
 }
 
 std::optional<std::string> FieldReportText(Ask& ask, int row) {
-    const auto bytes = OpenField(ask, row);
-    if (!bytes) return std::nullopt;
-    const std::string name = FieldFileName(row);
-    const StatRecord& stat = State.Stat[row];
-    const FieldFile file = ParseFieldFile(*bytes, stat.CropName.First() == HayMark, name);
-    try {
-        return FieldReportText(GatherFieldReport(file, stat, State.EnglishUnits), State.TodayJulian);
-    } catch (const RunTimeFailure& failure) {
-        throw RunTimeFailure(name + ": " + failure.what());
-    }
+    const std::optional<FieldReport> report = StoredFieldReport(ask, row);
+    if (!report) return std::nullopt;
+    return FieldReportText(*report, State.TodayJulian);
+}
+
+void SaveFieldReport(Ask& ask, const FieldReport& report) {
+    SaveReport(ask, "Your Field Report", "Field.txt", FieldReportText(report, State.TodayJulian));
 }
 
 bool SaveFieldReport(Ask& ask, int row) {
-    const std::optional<std::string> report = FieldReportText(ask, row);
-    if (report) SaveReport(ask, "Your Field Report", "Field.txt", *report);
+    const std::optional<FieldReport> report = StoredFieldReport(ask, row);
+    if (report) SaveFieldReport(ask, *report);
     return report.has_value();
 }
 

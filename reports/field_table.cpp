@@ -6,14 +6,11 @@
 
 #include "core/numbers.h"
 #include "reports/field_days.h"
+#include "reports/report_text.h"
 
 namespace veraqua {
 
 namespace {
-
-constexpr double MillimetresPerInch = 25.4;
-constexpr double FahrenheitPerCelsius = 1.8;
-constexpr double FeetPerMetre = 3.281;
 
 // clang-format off
 /// Heading lines: names, units in the English system, units in the metric system. Each ends in a blank.
@@ -29,47 +26,44 @@ constexpr std::array<std::string_view, 3> HayHeading{
 constexpr std::size_t CropRule = 96;
 constexpr std::size_t HayRule = 99;
 
-/// The cells of one unit system. What is rounded is rounded first, halves to even, and then put into its mask.
+/// The cells of one unit system.
 class Cells {
   public:
-    explicit Cells(bool english) : english_(english) {}
+    explicit Cells(bool english) : units_{english} {}
 
-    std::string Available(double mm) const {
-        return Masked(english_ ? RoundedTo(mm / MillimetresPerInch, 100) : RoundedTo(mm, 10), "00.00");
-    }
+    std::string Available(double mm) const { return RoundedCell(units_.Water(mm), Finer(10), "00.00"); }
 
     static std::string Depletion(double percent, std::string_view mask) {
         return percent < 0 ? "FULL" : Masked(percent, mask);
     }
 
-    std::string Gdd(double celsius) const { return Masked(RoundedTo(celsius * HeatUnit(), 100), "000.0"); }
-    std::string GddSum(double celsius) const { return Masked(RoundedTo(celsius * HeatUnit(), 10), "0000"); }
+    std::string Gdd(double celsius) const { return RoundedCell(units_.Heat(celsius), 100, "000.0"); }
+    std::string GddSum(double celsius) const { return RoundedCell(units_.Heat(celsius), 10, "0000"); }
 
     /// Water that evaporated on a day, and since planting.
     std::string Et(double mm) const {
-        return english_ ? Masked(RoundedTo(mm / MillimetresPerInch, 1000), "0.000")
-                        : Masked(RoundedTo(mm, 100), "00.00");
+        return RoundedCell(units_.Water(mm), Finer(100), units_.English ? "0.000" : "00.00");
     }
     std::string EtSum(double mm) const {
-        return english_ ? Masked(RoundedTo(mm / MillimetresPerInch, 100), "00.00") : Masked(RoundedTo(mm, 10), "000.0");
+        return RoundedCell(units_.Water(mm), Finer(10), units_.English ? "00.00" : "000.0");
     }
 
-    static std::string Coefficient(double k) { return Masked(RoundedTo(k, 100), "0.00"); }
+    static std::string Coefficient(double k) { return RoundedCell(k, 100, "0.00"); }
 
     std::string RootDepth(double metres) const {
-        return english_ ? Masked(RoundedTo(metres * FeetPerMetre, 100), "0.00")
-                        : Masked(RoundedTo(metres, 1000), "00.00");
+        return units_.English ? RoundedCell(units_.Root(metres), 100, "0.00") : RoundedCell(metres, 1000, "00.00");
     }
 
     /// Rain or irrigation.
     std::string Water(std::optional<std::int16_t> mm, std::string_view mask) const {
-        return Masked(mm.value_or(0) / (english_ ? MillimetresPerInch : 1), mask);
+        return Masked(units_.Water(mm.value_or(0)), mask);
     }
 
   private:
-    double HeatUnit() const { return english_ ? FahrenheitPerCelsius : 1; }
+    /// Inches have one decimal more than millimetres.
+    double Finer(double perMillimetre) const { return units_.English ? perMillimetre * 10 : perMillimetre; }
 
-    bool english_;
+    DayUnits units_;
 };
 
 /// From the heat of the day to the sum of crop evapotranspiration: the columns that both kinds of crop have.

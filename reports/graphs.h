@@ -1,6 +1,67 @@
 #pragma once
 
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/calendar.h"
+#include "screen/form.h"
+
+/// The bars of all fields at once: a panel for each with the water of its root zone.
 namespace veraqua {
+
+/// One field of the display.
+struct GraphRow {
+    std::int16_t Row = 0;  ///< of the directory
+    std::string FieldId;
+    std::string CropName;
+    float Depletion = 0;     ///< percent
+    float MadNow = 0;        ///< percent
+    float WaterContent = 0;  ///< water of the root zone, percent of what it holds
+    JulianValue PlantDate = 0;
+    JulianValue NextIrrDate = 0;  ///< or one of two marks that sort ahead of all days
+    JulianValue LastDate = 0;
+};
+
+/// `NextIrrDate` where harvest is due, and where there are no data.
+constexpr JulianValue HarvestDueDate = JulianFromDate(1, 1, 1901);
+constexpr JulianValue NoDataDate = JulianFromDate(2, 2, 1902);
+
+/// A panel.
+struct frmFieldGraph : Form {
+    ProgressBar PBar;
+    Label lbl_WaterContent;
+    Label lbl_amount{" Water Content"};
+    Label lbl_MAD;
+    Label lbl_depl;
+    Label lbl_k{"Value of k"};  ///< the field's row; never shown
+    Button cmd_Select{"Select Field"};
+};
+
+FormTable TableOf(frmFieldGraph& form);
+
+struct frmGraphs : Form {
+    MenuItem m_sort{"Sort Order  "};
+    MenuItem m_plant{"Sort by Planting Date", 2};
+    MenuItem m_crop{"Sort by Crop Name", 2};
+    MenuItem m_Field{"Sort by Field Name", 2};
+    MenuItem m_irr{"Sort by Next Irr. Date", 2};
+    MenuItem m_prior12{"Prior Field Set"};
+    MenuItem m_next12{"Next Field Set"};
+    MenuItem m_exit{"<-GO BACK"};
+
+    std::vector<GraphRow> Rows;
+    int FirstShown = 0;  ///< of the sorted rows, from 1
+    int LastShown = 0;
+    std::vector<std::shared_ptr<frmFieldGraph>> Panels;  ///< by position; those with a field are `Shown`
+};
+
+FormTable TableOf(frmGraphs& form);
+
+/// Orders `rows` by the key word "Date" (planting), "Crop", "Field" or "IrrDate", rising, by an exchange sort with a
+/// shrinking gap, which settles the order of equal keys.
+void SortGraphRows(std::vector<GraphRow>& rows, std::string_view key);
 
 /// Shows the bars of all fields and hides the workbench, or tells that there are none.
 void ShowFieldDisplays();

@@ -12,4 +12,8 @@ std::string IrrigationAmount(int millimetres, bool english) {
     return english ? Plain(HundredthsOfInches(millimetres)) + " inches" : Plain(millimetres) + " mm";
 }
 
+std::string RoundedCell(double value, double perUnit, std::string_view mask) {
+    return Masked(RoundedTo(value, perUnit), mask);
+}
+
 }  // namespace veraqua
