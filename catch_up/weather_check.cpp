@@ -5,9 +5,24 @@
 
 namespace veraqua {
 
+namespace {
+
+/// The user has picked another station where he brought the weather in: that of the field comes back, with its own
+/// coverage and default weather, and how the work has ended stays.
+void ReturnToStation(Ask& ask, const std::string& code, const std::string& name, int startYear) {
+    State.StationCode = code;
+    State.StationName = name;
+    const bool failed = State.DownloadFailed;
+    const bool cancelled = State.ReportCancelled;
+    const bool known = FindCoverage(ask, startYear) != Coverage::RegionMissing;
+    State.DownloadFailed = failed || !known;
+    State.ReportCancelled = cancelled;
+}
+
+}  // namespace
+
 void CheckWeather(Ask& ask, int startYear) {
     if (FindCoverage(ask, startYear) != Coverage::WeatherNeeded) return;
-    // The screen that the user chooses on lets him pick another station: that of the field comes back.
     const std::string code = State.StationCode;
     const std::string name = State.StationName;
     ask.Tell("Weather data required from " + JulianToShortText(State.WeatherNeedFrom) + " to " +
@@ -16,8 +31,7 @@ void CheckWeather(Ask& ask, int startYear) {
     do {
         ask.ChooseWeatherSource();
     } while (State.DownloadFailed && !State.ReportCancelled);
-    State.StationCode = code;
-    State.StationName = name;
+    if (State.StationCode != code) ReturnToStation(ask, code, name, startYear);
 }
 
 }  // namespace veraqua

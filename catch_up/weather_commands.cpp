@@ -47,23 +47,17 @@ void TellWindlessDays(Ask& ask, const std::vector<JulianValue>& days) {
 }
 
 bool AppendRange(Ask& ask, int year) {
-    if (State.WeatherLastJulian >= Yesterday()) {
-        if (!ask.YesNo("Your weather data is already up-to-date\n  Do you want to overwrite it?", "Weather Info",
-                       Icon::Question, true)) {
-            State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
-            return false;
-        }
-        State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-        if (State.WeatherNeedTo < State.WeatherNeedFrom) State.WeatherNeedTo = Yesterday();
+    if (State.WeatherLastJulian < Yesterday()) {
+        FindMissingDays(year);
         return true;
     }
-    if (State.WeatherLastJulian == 0) {
-        State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-    } else {
-        State.WeatherNeedFrom = State.WeatherLastJulian + 1;
-        State.WeatherYearSuffix = YearSuffix(YearOf(State.WeatherNeedFrom));
+    if (!ask.YesNo("Your weather data is already up-to-date\n  Do you want to overwrite it?", "Weather Info",
+                   Icon::Question, true)) {
+        State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
+        return false;
     }
-    State.WeatherNeedTo = Yesterday();
+    State.WeatherNeedFrom = JulianFromDate(1, 1, year);
+    if (State.WeatherNeedTo < State.WeatherNeedFrom) State.WeatherNeedTo = Yesterday();
     return true;
 }
 
@@ -75,22 +69,23 @@ bool StationIsChosen(Ask& ask) {
     return false;
 }
 
-bool DownloadWeather(Ask& ask, const std::function<void(std::string_view)>& state) {
-    const std::string name = State.StationCode + State.WeatherYearSuffix + "rd.txt";
-    const HttpReply reply = ask.Get(State.BaseUrl + name, state);
-    State.DownloadFailed = !reply.Succeeded;
-    if (!reply.Succeeded) {
-        ask.Tell(fmt::format("{}: {}", reply.Code, reply.Text), "Download Error");
-        return false;
-    }
-    state("Copying data to weather file");
-    const std::string text = WithPlainLineEnds(reply.Body);
+std::string NetworkFileName() { return State.StationCode + State.WeatherYearSuffix + "rd.txt"; }
+
+void StoreNetworkText(std::string_view body) {
+    const std::string text = WithPlainLineEnds(body);
     files::ChangeSet changes;
-    files::Write(name, text);
+    files::Write(NetworkFileName(), text);
     files::Write("kesta." + State.WeatherYearSuffix, text);
     changes.Commit();
-    state("Download Succeeded");
-    return true;
+}
+
+JulianValue FindMissingDays(int year) {
+    const JulianValue last = LastWeatherJulian(State.StationCode, year);
+    State.WeatherNeedFrom = last == 0 ? JulianFromDate(1, 1, year) : last + 1;
+    State.WeatherNeedTo = Yesterday();
+    // The day after the last may be a 1 January.
+    State.WeatherYearSuffix = YearSuffix(YearOf(State.WeatherNeedFrom));
+    return last;
 }
 
 bool ChooseRange(Ask& ask, WeatherCommand command) {
@@ -130,10 +125,11 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear) {
     return report;
 }
 
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void(std::string_view)>& state) {
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void()>& download) {
     if (!StationIsChosen(ask)) return {CommandEnding::StationMissing, {}, {}, {}, {}};
     if (!ChooseRange(ask, command)) return {CommandEnding::Declined, {}, {}, {}, {}};
-    if (!DownloadWeather(ask, state)) {
+    download();
+    if (State.DownloadFailed) {
         TellDownloadFailed(ask);
         return {CommandEnding::Failed, {}, {}, {}, {}};
     }

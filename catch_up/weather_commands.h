@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,10 +40,16 @@ constexpr std::string_view NoStation = "00";
 /// False, after the user has been told, while no station is chosen.
 bool StationIsChosen(Ask& ask);
 
-/// Fetches the text of the station in work and the year of `WeatherYearSuffix`, keeps it under its remote name and as
-/// the year's text to import. `state` is told how it goes. False, with `DownloadFailed` set, after the user has been
-/// told why not.
-bool DownloadWeather(Ask& ask, const std::function<void(std::string_view)>& state);
+/// Name of the text of the station in work and the year of `WeatherYearSuffix`, on the network and here: "0603rd.txt".
+std::string NetworkFileName();
+
+/// Keeps a text that has been fetched, under its remote name and as the year's text to import. RunTimeFailure if the
+/// disk refuses; then both are as before.
+void StoreNetworkText(std::string_view body);
+
+/// Last day of weather in the file of `year`, 0 if there is none; the range of days from there through yesterday
+/// becomes the one that is needed.
+JulianValue FindMissingDays(int year);
 
 /// Sets the range that `command` is to bring in. False if the user declines to overwrite weather that is up to date.
 bool ChooseRange(Ask& ask, WeatherCommand command);
@@ -53,9 +60,11 @@ bool ChooseRange(Ask& ask, WeatherCommand command);
 CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear);
 
 /// The whole menu command: range, download, import, and the catch-up of the station's fields.
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void(std::string_view)>& state);
+///   download  fetches the text of `NetworkFileName` and stores it, or sets `DownloadFailed` and tells the user why
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void()>& download);
 
-/// What the station chooser does with its own range once it has downloaded: no question about the range, no catch-up.
+/// What the station chooser does with its own range, which lies in one year, once it has downloaded: no question about
+/// the range, no catch-up.
 CommandReport AppendForChooser(Ask& ask);
 
 }  // namespace veraqua

@@ -95,6 +95,7 @@ TypedDate ReadTypedDate(std::string_view text) {
 }
 
 bool IsCalendarDay(std::string_view text) {
+    if (text.find_last_not_of(DateSeparators) + 1 != text.size()) return false;
     const int month = TakeNumber(text, 2);
     const int day = TakeNumber(text, 2);
     const int year = TakeNumber(text, 4);

@@ -1,0 +1,87 @@
+#include "weather/forms/day_rows.h"
+
+#include "core/numbers.h"
+#include "weather/network_text.h"
+
+namespace veraqua {
+
+namespace {
+
+/// A unit of display: what is stored times `Multiplier` through `Divisor`, and `Zero` more.
+struct Unit {
+    double Multiplier = 1;
+    double Divisor = 1;
+    double Zero = 0;
+
+    bool operator==(const Unit&) const = default;
+};
+
+constexpr Unit AsStored;
+constexpr Unit Fahrenheit{1.8, 1, 32};
+constexpr Unit MilesPerHour{0.6214, 24, 0};
+constexpr Unit KilometresPerHour{1, 24, 0};
+constexpr Unit Megajoules{1, LangleysPerMegajoule, 0};
+constexpr Unit Inches{1, 25.4, 0};
+
+struct Description {
+    float WeatherDay::*Member;
+    std::string_view EnglishLabel;
+    std::string_view MetricLabel;
+    Unit English;
+    Unit Metric;
+};
+
+// clang-format off
+constexpr std::array Descriptions{
+    Description{&WeatherDay::TempMax,
+                "Daily Max Temp (deg. F). . . . . . . . . . . . . . . ",
+                "Daily Max Temp (deg. C). . . . . . . . . . . . . . .  ", Fahrenheit, AsStored},
+    Description{&WeatherDay::TempMin,
+                "Daily Min Temp (deg. F). . . . . . . . . . . . . . . ",
+                "Daily Min Temp (deg. C). . . . . . . . . . . . . . .  ", Fahrenheit, AsStored},
+    Description{&WeatherDay::HumidityMax,
+                "Daily Max Rel. Humidity (%). . . . . . . . . . . . . ",
+                "Daily Max Rel. Humidity (%). . . . . . . . . . . . . ", AsStored, AsStored},
+    Description{&WeatherDay::HumidityMin,
+                "Daily Min Rel. Humidity (%). . . . . . . . . . . . . ",
+                "Daily Min Rel. Humidity (%). . . . . . . . . . . . . ", AsStored, AsStored},
+    Description{&WeatherDay::WindRun,
+                "Daily Avg Wind Velocity (mph). . . . . . . . . . . . ",
+                "Daily Avg Wind Velocity (km/hr). . . . . . . . . . .  ", MilesPerHour, KilometresPerHour},
+    Description{&WeatherDay::DayNightRatio,
+                "Day/Night Wind Velocity Ratio. . . . . . . . . . . . ",
+                "Day/Night Wind Velocity Ratio. . . . . . . . . . . . ", AsStored, AsStored},
+    Description{&WeatherDay::SolarRadiation,
+                "Solar Radiation (Langleys/day) . . . . . . . . . . . ",
+                "Solar Radiation (MJ/sq. meter/day) . . . . . . . . .  ", AsStored, Megajoules},
+    Description{&WeatherDay::ReferenceET,
+                "Reference Evavoptranspiration (in) . . . . . . . . . . . ",
+                "Reference Evavoptranspiration (mm) . . . . . . . . . . . ", Inches, AsStored},
+};
+// clang-format on
+static_assert(Descriptions.size() == AllDayRows.size());
+
+}  // namespace
+
+std::string_view LabelOf(DayRow row, bool english) {
+    const Description& description = Descriptions[IndexOf(row)];
+    return english ? description.EnglishLabel : description.MetricLabel;
+}
+
+std::string TextOf(const WeatherDay& day, DayRow row, bool english, std::string_view mask) {
+    const Description& description = Descriptions[IndexOf(row)];
+    const Unit& unit = english ? description.English : description.Metric;
+    const float stored = day.*description.Member;
+    // A number that is shown as it is stored is rounded on the decimal form of the single.
+    if (unit == AsStored) return Masked(stored, mask);
+    return Masked(static_cast<double>(stored) * unit.Multiplier / unit.Divisor + unit.Zero, mask);
+}
+
+void Enter(WeatherDay& day, DayRow row, double entered, bool english) {
+    const Description& description = Descriptions[IndexOf(row)];
+    const Unit& unit = english ? description.English : description.Metric;
+    day.*description.Member =
+        ToSingle((entered - unit.Zero) * unit.Divisor / unit.Multiplier, "a number of the day's weather");
+}
+
+}  // namespace veraqua

@@ -1,0 +1,83 @@
+#include "weather/forms/download.h"
+
+#include <fmt/format.h>
+
+#include "catch_up/weather_commands.h"
+#include "core/state.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+/// The request is over, well or not: only OK is left to press.
+void Finish(frmDownload& form, bool succeeded) {
+    State.DownloadFailed = !succeeded;
+    form.lblResult.Visible = succeeded;
+    form.lblWarning.Visible = !succeeded;
+    form.Label1.Visible = false;
+    form.txtURL.Enabled = false;
+    form.cmd_OK.Enabled = true;
+    form.Cmd_Exit.Enabled = false;
+}
+
+void TakeText(frmDownload& form, std::string_view body) {
+    form.lblResult.Caption = "Copying data to weather file";
+    try {
+        StoreNetworkText(body);
+    } catch (const RunTimeFailure& failure) {
+        // The network's answer is no event of the form: nobody else would tell.
+        Finish(form, false);
+        TheScreen().Failed(failure);
+        return;
+    }
+    form.lblResult.Caption = "Download Succeeded";
+    Finish(form, true);
+}
+
+void Follow(frmDownload& form, const HttpProgress& progress) {
+    if (progress.State <= HttpProgress::Connecting) form.lblResult.Caption = "Resolving IP/Connecting...";
+    if (progress.State == HttpProgress::Connected) form.lblResult.Caption = "Connected...";
+    if (progress.State == HttpProgress::Error) {
+        TheScreen().Tell(fmt::format("{}: {}", progress.Reply.Code, progress.Reply.Text), "Download Error");
+        Finish(form, false);
+    }
+    if (progress.State == HttpProgress::Complete) TakeText(form, progress.Reply.Body);
+}
+
+void Load(frmDownload& form) {
+    form.lblWarning.Visible = false;
+    form.cmd_OK.Enabled = false;
+    form.txtURL.Text = State.BaseUrl + NetworkFileName();
+    form.txtURL.ReadOnly = true;
+    State.DownloadFailed = true;  // until it is here
+    TheScreen().StartGet(form.txtURL.Text, [&form](const HttpProgress& progress) { Follow(form, progress); });
+}
+
+void cmd_OK_Click(frmDownload&) { Unload(FormName::frmDownload); }
+
+void Cmd_Exit_Click(frmDownload&) {
+    TheScreen().CancelGet();
+    TheScreen().Tell("Your download has been cancelled", "DOWNLOAD ENDED");
+    State.DownloadFailed = true;
+    Unload(FormName::frmDownload);
+}
+
+void Close(frmDownload& form) { form.Cmd_Exit.Enabled ? Cmd_Exit_Click(form) : cmd_OK_Click(form); }
+
+}  // namespace
+
+FormTable TableOf(frmDownload& form) {
+    FormFor table(form, FormName::frmDownload, "frmDownload");
+    table.Add("Label1", form.Label1);
+    table.Add("txtURL", form.txtURL);
+    table.Add("lblResult", form.lblResult);
+    table.Add("lblWarning", form.lblWarning);
+    table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);
+    table.Add("Cmd_Exit", form.Cmd_Exit).Click(Cmd_Exit_Click).Exit();
+    table.Load(Load).Close(Close);
+    return table.Done();
+}
+
+}  // namespace veraqua

@@ -1,0 +1,194 @@
+#include "weather/forms/weather_menu.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "core/state.h"
+#include "screen/field_caption.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+#include "weather/default_weather.h"
+#include "weather/forms/day_entry.h"
+#include "weather/forms/day_rows.h"
+#include "weather/forms/station_list.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr std::string_view Chooser = "frmKESTA";
+constexpr std::string_view MainMenu = "frmVeraqua";
+
+bool ChooserHasCalled() { return State.CallerForm == Chooser; }
+
+/// Shows `day`, the last one written, and the range's last day above it.
+void ShowDay(frmWeather& form, const WeatherDay& day) {
+    for (const DayRow row : AllDayRows) {
+        form.lbl_d[IndexOf(row)].Caption = LabelOf(row, State.EnglishUnits);
+        form.lbl_az[IndexOf(row)].Caption = TextOf(day, row, State.EnglishUnits, "0.0");
+    }
+    form.lbl_info[0].Caption =
+        "Weather data for Station #" + State.StationCode + " on " + JulianToShortText(State.WeatherNeedTo);
+    ShowPanels(form);
+}
+
+/// After a download or import that came to nothing.
+void LeaveFailed(frmWeather& form) {
+    if (ChooserHasCalled())
+        Unload(FormName::frmWeather);
+    else
+        ClearPanels(form);
+}
+
+void ShowReport(frmWeather& form) {
+    const CommandReport& report = form.Report;
+    if (report.Ending == CommandEnding::StationMissing) mnu_KESTAloc_Click(form);
+    if (report.Ending == CommandEnding::Failed) LeaveFailed(form);
+    if (report.Ending != CommandEnding::Done) return;
+    ShowDay(form, report.LastDay);
+    form.StatusBar1.Panels[0] = report.Status;
+    form.lblUpdate.Caption = report.FieldsUpdated;
+    form.lblUpdate.Visible = report.CatchUp.has_value();
+}
+
+void BringFromNetwork(frmWeather& form, WeatherCommand command) {
+    form.lblUpdate.Visible = false;
+    form.Report = ChooserHasCalled() ? AppendForChooser(TheScreen())
+                                     : BringWeather(TheScreen(), command, [] { ShowModal(FormName::frmDownload); });
+    ShowReport(form);
+}
+
+void Load(frmWeather& form) {
+    ClearPanels(form);
+    if (State.StationCode == NoStation) mnu_KESTAloc_Click(form);
+    State.WeatherYearSuffix = YearSuffix(YearOf(TheScreen().Now()));
+    ShowStationOn(form, form.StatusBar1);
+    // The chooser shows this window so that the user sees the default weather that it has let him take.
+    if (ChooserHasCalled()) mnu_default_Click(form);
+}
+
+void Unloaded(frmWeather& form) {
+    EnableMenus(form);
+    ClearPanels(form);
+    if (State.CallerForm == MainMenu) Show(FormName::frmVeraqua);
+}
+
+void Leave(frmWeather&) { Unload(FormName::frmWeather); }
+
+bool ComboKESTA_Click(frmWeather& form) {
+    if (!ChooseStation(form.ComboKESTA)) return false;
+    ClearPanels(form);
+    form.StatusBar1.Panels[2] = StationPanel();
+    return true;
+}
+
+/// A row that was only touched counts as picked when the user goes on.
+bool ComboKESTA_Leave(frmWeather& form) { return form.ComboKESTA.Selected() == nullptr || ComboKESTA_Click(form); }
+
+void mnu_view_Click(frmWeather& form) {
+    ShowModal(FormName::frmViewWeather);
+    form.StatusBar1.Panels[2] = StationPanel();
+}
+
+template <class Controls>
+void SetVisible(Controls& controls, bool visible) {
+    for (Control& control : controls) control.Visible = visible;
+}
+
+}  // namespace
+
+FormTable TableOf(frmWeather& form) {
+    FormFor table(form, FormName::frmWeather, "frmWeather");
+    table.Add("mnu_weather", form.mnu_weather);
+    table.Add("mnu_kesta", form.mnu_kesta);
+    table.Add("mnu_AppendWeather", form.mnu_AppendWeather).Click(mnu_AppendWeather_Click);
+    table.Add("mnu_OverwriteWeather", form.mnu_OverwriteWeather).Click(mnu_OverwriteWeather_Click);
+    table.Add("mnu_enter", form.mnu_enter).Click(mnu_enter_Click);
+    table.Add("mnu_default", form.mnu_default).Click(mnu_default_Click);
+    table.Add("mnu_KESTAloc", form.mnu_KESTAloc).Click(mnu_KESTAloc_Click);
+    table.Add("mnu_view", form.mnu_view).Click(mnu_view_Click);
+    table.Add("mnu_return", form.mnu_return).Click(Leave).Exit();
+    table.Add("lblKESTA", form.lblKESTA);
+    table.Add("ComboKESTA", form.ComboKESTA).Click(ComboKESTA_Click).Leave(ComboKESTA_Leave);
+    table.Add("lbl_SelectDate", form.lbl_SelectDate);
+    table.Add("txtDate", form.txtDate).EnterKey(cmd_DateOK_Click);
+    table.Add("cmd_Calendar", form.cmd_Calendar).Click(cmd_Calendar_Click);
+    table.Add("Cal1", form.Cal1).Click(Cal1_Click);
+    table.Add("cmd_DateOK", form.cmd_DateOK).Click(cmd_DateOK_Click);
+    table.Add("lbl_kesta", form.lbl_kesta);
+    table.Add("lbl_EditWeather", form.lbl_EditWeather);
+    table.Add("lbl_info", form.lbl_info);
+    table.Add("lbl_d", form.lbl_d);
+    table.Add("lbl_az", form.lbl_az);
+    table.Add("txt_w", form.txt_w).Leave(txt_w_Leave);
+    table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);
+    table.Add("lblUpdate", form.lblUpdate);
+    table.Add("Cmd_Exit", form.Cmd_Exit).Click(Leave).Exit();
+    table.Add("StatusBar1", form.StatusBar1);
+    table.Load(Load).Close(Leave).Unload(Unloaded);
+    return table.Done();
+}
+
+void ClearPanels(frmWeather& form) {
+    for (Control* control : std::initializer_list<Control*>{
+             &form.lbl_kesta, &form.lbl_SelectDate, &form.lblUpdate, &form.Cal1, &form.cmd_Calendar, &form.txtDate,
+             &form.cmd_DateOK, &form.lbl_EditWeather, &form.cmd_OK, &form.lblKESTA, &form.ComboKESTA})
+        control->Visible = false;
+    SetVisible(form.lbl_info, false);
+    SetVisible(form.lbl_az, false);
+    SetVisible(form.lbl_d, false);
+    SetVisible(form.txt_w, false);
+}
+
+void ShowPanels(frmWeather& form) {
+    form.lbl_kesta.Visible = true;
+    form.Cmd_Exit.Visible = true;
+    SetVisible(form.lbl_info, true);
+    SetVisible(form.lbl_az, true);
+    SetVisible(form.lbl_d, true);
+}
+
+void EnableMenus(frmWeather& form, bool enabled) {
+    for (MenuItem* menu : {&form.mnu_weather, &form.mnu_kesta, &form.mnu_enter, &form.mnu_default, &form.mnu_view})
+        menu->Enabled = enabled;
+}
+
+bool HasStation(frmWeather& form) {
+    if (State.StationCode != NoStation) return true;
+    TheScreen().Tell("Please select your KESTA weather location first.");
+    mnu_KESTAloc_Click(form);
+    return false;
+}
+
+void mnu_KESTAloc_Click(frmWeather& form) {
+    EnableMenus(form);
+    ClearPanels(form);
+    form.Cmd_Exit.Visible = true;
+    FillStations(form.ComboKESTA);
+    form.lblKESTA.Visible = true;
+    form.ComboKESTA.Visible = true;
+}
+
+void mnu_AppendWeather_Click(frmWeather& form) { BringFromNetwork(form, WeatherCommand::Append); }
+
+void mnu_OverwriteWeather_Click(frmWeather& form) { BringFromNetwork(form, WeatherCommand::Overwrite); }
+
+void mnu_default_Click(frmWeather& form) {
+    if (!HasStation(form)) return;
+    ClearPanels(form);
+    const int year = YearOf(TheScreen().Now());
+    State.WeatherYearSuffix = YearSuffix(year);
+    if (!ChooserHasCalled()) {
+        State.WeatherNeedFrom = JulianFromDate(1, 1, year);
+        State.WeatherNeedTo = State.TodayJulian - 1;
+    }
+    WriteDefaultWeather();
+    State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
+    if (ChooserHasCalled()) form.Cmd_Exit.Caption = "OK";
+    form.StatusBar1.Panels[0] = "Weather files updated with DEFAULT Data between " +
+                                JulianToShortText(State.WeatherNeedFrom) + " and " +
+                                JulianToShortText(State.WeatherNeedTo);
+    ShowDay(form, DefaultDay(State.WeatherCoeff, DayOfYearFromJulian(State.WeatherNeedTo).DayOfYear));
+}
+
+}  // namespace veraqua
