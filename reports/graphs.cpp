@@ -111,8 +111,7 @@ void m_irr_Click(frmGraphs& form) { Sort(form, "IrrDate"); }
 void m_next12_Click(frmGraphs& form) {
     const int count = static_cast<int>(form.Rows.size());
     if (form.LastShown == count)
-        return TheScreen().Tell(
-            fmt::format("You've displayed all your fields.  You have {} fields planted.", count));
+        return TheScreen().Tell(fmt::format("You've displayed all your fields.  You have {} fields planted.", count));
     DrawFrom(form, form.LastShown + 1);
 }
 
@@ -143,7 +142,9 @@ void SortGraphRows(std::vector<GraphRow>& rows, std::string_view key) {
         if (key == "Field") return a.FieldId > b.FieldId;
         return a.NextIrrDate > b.NextIrrDate;
     };
-    const auto half = [](std::size_t whole) { return static_cast<std::size_t>(RoundHalfEven(static_cast<double>(whole) / 2)); };
+    const auto half = [](std::size_t whole) {
+        return static_cast<std::size_t>(RoundHalfEven(static_cast<double>(whole) / 2));
+    };
     for (std::size_t gap = half(rows.size() + 1); gap >= 1; gap = half(gap)) {
         bool swapped = true;
         while (swapped) {

@@ -32,9 +32,12 @@ class WaterSeries {
     }
 
     std::vector<ChartSeries> All() const {
-        return {{"Root-zone water", unit_, Look::Line, measured_}, {"Forecast", unit_, Look::Dashed, forecast_},
-                {"Full", unit_, Look::Limit, full_},               {"MAD", unit_, Look::Limit, mad_},
-                {"Dry", unit_, Look::Limit, dry_},                 {"Rain", unit_, Look::Bars, rain_},
+        return {{"Root-zone water", unit_, Look::Line, measured_},
+                {"Forecast", unit_, Look::Dashed, forecast_},
+                {"Full", unit_, Look::Limit, full_},
+                {"MAD", unit_, Look::Limit, mad_},
+                {"Dry", unit_, Look::Limit, dry_},
+                {"Rain", unit_, Look::Bars, rain_},
                 {"Irrigation", unit_, Look::Bars, irrigation_}};
     }
 

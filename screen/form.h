@@ -12,6 +12,7 @@
 #include <variant>
 #include <vector>
 
+#include "screen/chart.h"
 #include "screen/controls.h"
 #include "screen/form_name.h"
 
@@ -44,7 +45,7 @@ enum class Event {
 };
 
 using AnyControl = std::variant<Label*, Frame*, TextBox*, Button*, ComboBox*, ListBox*, OptionButton*, MenuItem*,
-                                StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*>;
+                                StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*, Chart*>;
 
 struct ControlEntry {
     std::string Name;  ///< in an array with its index: "txtcap(2)"
