@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 
 #include <fmt/format.h>
 
@@ -30,21 +29,16 @@ std::string OneLine(std::string_view text) {
 
 }  // namespace
 
-JulianValue CliScreen::ClockDate() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return JulianFromDate(local.tm_mon + 1, local.tm_mday, local.tm_year + 1900);
-}
-
 void CliScreen::Tell(std::string_view text, std::string_view title, Icon) {
     ClearLine();
     Say(fmt::format("{}: {}\n", title, OneLine(text)));
+    ++objections_;
 }
 
 bool CliScreen::YesNo(std::string_view text, std::string_view title, Icon, bool) {
     ClearLine();
     Say(fmt::format("{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no"));
+    if (!answer_) ++objections_;
     return answer_;
 }
 

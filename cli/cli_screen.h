@@ -3,6 +3,7 @@
 #include <chrono>
 #include <string>
 
+#include "core/clock.h"
 #include "screen/headless.h"
 
 namespace veraqua {
@@ -11,9 +12,6 @@ namespace veraqua {
 /// the one answer that was given as an option.
 class CliScreen : public HeadlessScreen {
   public:
-    /// The local date of the computer's clock.
-    static JulianValue ClockDate();
-
     CliScreen() { InstallScreen(*this); }
 
     void SetAnswer(bool yes) { answer_ = yes; }
@@ -31,6 +29,9 @@ class CliScreen : public HeadlessScreen {
     void Failed(const RunTimeFailure&) override { throw; }
     [[noreturn]] void EndProgram() override;
 
+    /// How often the user was told something or a question was answered no since the program began.
+    int Objections() const { return objections_; }
+
     /// Shows a passing text in the progress line.
     void ShowState(std::string_view text);
 
@@ -41,6 +42,7 @@ class CliScreen : public HeadlessScreen {
     bool answer_ = false;
     bool progressAllowed_ = true;
     bool lineShown_ = false;
+    int objections_ = 0;
     std::chrono::steady_clock::time_point begun_ = std::chrono::steady_clock::now();
 };
 
