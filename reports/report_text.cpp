@@ -12,6 +12,12 @@ std::string IrrigationAmount(int millimetres, bool english) {
     return english ? Plain(HundredthsOfInches(millimetres)) + " inches" : Plain(millimetres) + " mm";
 }
 
+std::string WithoutTabs(std::string_view line) {
+    std::string text;
+    for (const char c : line) c == '\t' ? text.append(8 - text.size() % 8, ' ') : text.append(1, c);
+    return text;
+}
+
 std::string RoundedCell(double value, double perUnit, std::string_view mask) {
     return Masked(RoundedTo(value, perUnit), mask);
 }

@@ -1,0 +1,9 @@
+#include "reports/printed_lines.h"
+
+namespace veraqua {
+
+void AddLines(PrintedDocument& document, const Font& face, const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) document.Lines.push_back({line, face});
+}
+
+}  // namespace veraqua

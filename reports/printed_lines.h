@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "screen/screen.h"
+
+namespace veraqua {
+
+const Font TableFont{"Courier New", 9};
+
+/// Adds `lines` to `document` in one font.
+void AddLines(PrintedDocument& document, const Font& face, const std::vector<std::string>& lines);
+
+}  // namespace veraqua

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "core/ask.h"
+#include "screen/screen.h"
+
+/// The irrigation schedule as it is printed: for every field when it last had water, how depleted it is, and when and
+/// how much to irrigate next; what is to be done first stands first.
+namespace veraqua {
+
+/// The schedule of all fields, from their files. `Stat` takes the depletion that each line shows, in memory only. A
+/// field whose file is missing is left out, after the user has been told. RunTimeFailure, naming the file, where one is
+/// damaged; `Stat` is then as before.
+PrintedDocument PrintedSchedule(Ask& ask);
+
+}  // namespace veraqua
