@@ -42,16 +42,6 @@ TEST_F(FirstStart, LeavesAloneWhatIsThere) {
     EXPECT_THAT(MakeDataDirectory(User, false).Created, IsEmpty());
 }
 
-TEST_F(FirstStart, RefusesTheSampleWhereAFieldIs) {
-    AField().StoreAt(1);
-    const std::vector<std::string> before = files::Names();
-    const InitOutcome outcome = MakeDataDirectory(User, true);
-    EXPECT_TRUE(outcome.Refused);
-    EXPECT_THAT(User.Texts(),
-                ElementsAre("There are fields in this directory. The sample season needs one without fields."));
-    EXPECT_EQ(files::Names(), before);
-}
-
 TEST_F(FirstStart, ACropTableWithoutTheSamplesCropsLeavesDirectoryAndStateAsTheyWere) {
     Directory.Put("crop.dat", "0\n");
     EXPECT_FAILURE(MakeDataDirectory(User, true), HasSubstr("crop.dat: the sample season needs the crop"));
