@@ -9,8 +9,11 @@
 #include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "screen/headless.h"
 #include "weather/coverage.h"
 #include "weather/default_weather.h"
+#include "weather/forms/forms.h"
+#include "weather/forms/weather_menu.h"
 #include "weather/import.h"
 #include "weather/network_text.h"
 #include "weather/reference_et.h"
@@ -106,9 +109,10 @@ int RunWeatherImport(Session& session, const ImportOptions& options) {
 
 int RunWeatherFetch(Session& session, const std::string& station, bool overwrite) {
     if (!OpenStation(session, station)) return ExitRefused;
-    const CommandReport report =
-        BringWeather(session.Outside, overwrite ? WeatherCommand::Overwrite : WeatherCommand::Append,
-                     [&session](std::string_view state) { session.Outside.ShowState(state); });
+    AddWeatherForms();
+    Show(FormName::frmWeather);
+    At(FormName::frmWeather).Click(overwrite ? "mnu_OverwriteWeather" : "mnu_AppendWeather");
+    const CommandReport& report = The<frmWeather>().Report;
     if (report.Ending == CommandEnding::Done) {
         Json json = JsonOfImport();
         json["fields_updated"] = report.CatchUp->Fields;

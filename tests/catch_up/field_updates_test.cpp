@@ -89,9 +89,8 @@ TEST_F(FieldUpdates, FollowAnImportAndAreCounted) {
     for (const auto& [command, what] : {std::pair{WeatherCommand::Append, "Updating fields"},
                                         std::pair{WeatherCommand::Overwrite, "Updating fields!"}}) {
         AWeatherYear("06", 2003).Through(194).Store();
-        User.Pages["http://kesta.example/kesta/data/0603rd.txt"] = {true, 200, "", NetworkDays(1, 195)};
         User.Steps.clear();
-        const CommandReport report = BringWeather(User, command, [](std::string_view) {});
+        const CommandReport report = BringWeather(User, command, [] { StoreNetworkText(NetworkDays(1, 195)); });
         EXPECT_EQ(report.FieldsUpdated, "Fields updated: 03");
         EXPECT_EQ(report.CatchUp->Worst, UpdateStatus::Done);
         EXPECT_THAT(User.Steps, testing::Each(testing::Field(&ScriptAsk::ProgressStep::What, what)));

@@ -26,6 +26,8 @@ TEST_F(WeatherCheck, SendsTheUserBackUntilTheWeatherIsThere) {
         State.DownloadFailed = User.WeatherSourceChosen < 3;
         State.StationCode = "08";  // what else the weather screen offers
         State.StationName = "HOLLIN WASH";
+        State.WeatherLastJulian = JulianFromDate(7, 14, 2003);
+        State.WeatherCoeff = {};
     };
     CheckWeather(User, 2003);
     EXPECT_THAT(User.Told,
@@ -34,6 +36,8 @@ TEST_F(WeatherCheck, SendsTheUserBackUntilTheWeatherIsThere) {
     EXPECT_FALSE(State.DownloadFailed);
     EXPECT_EQ(State.StationCode, "06");
     EXPECT_EQ(State.StationName, "FENWOLD");
+    EXPECT_EQ(State.WeatherLastJulian, JulianFromDate(7, 9, 2003));  // its own day 190
+    EXPECT_NE(State.WeatherCoeff, WeatherCoefficients{});
 }
 
 TEST_F(WeatherCheck, EndsWhereTheUserLeavesWithoutAChoice) {

@@ -13,18 +13,20 @@ namespace {
 using testing::ElementsAre;
 using Message = ScriptAsk::Message;
 
-const std::string Url = "http://kesta.example/kesta/data/0603rd.txt";
 const Message DownloadFailedMessage{"No weather data was saved, try loading default data", "DOWNLOAD FAILED"};
 constexpr auto Append = WeatherCommand::Append;
 constexpr auto Overwrite = WeatherCommand::Overwrite;
 
 struct WeatherCommands : CatchUpTest {
     CommandReport Bring(WeatherCommand command, const std::string& text) {
-        User.Pages[Url] = {true, 200, "", text};
-        return BringWeather(User, command, [this](std::string_view state) { States.emplace_back(state); });
+        return BringWeather(User, command, [&] {
+            Fetched.push_back(NetworkFileName());
+            StoreNetworkText(text);
+            State.DownloadFailed = false;
+        });
     }
 
-    std::vector<std::string> States;
+    std::vector<std::string> Fetched;
 };
 
 TEST_F(WeatherCommands, EndYesterdayAndAskBeforeTheyOverwrite) {
@@ -47,7 +49,7 @@ TEST_F(WeatherCommands, EndYesterdayAndAskBeforeTheyOverwrite) {
         State.DownloadFailed = true;  // of an earlier try
         User.OtherAnswer = range.MayOverwrite;
         User.Asked.clear();
-        User.Fetched.clear();
+        Fetched.clear();
         const CommandReport report = Bring(range.Command, NetworkDays(1, 195));
         const bool asks = range.Command == Append && range.Stored == 195;
         EXPECT_EQ(User.Asked, std::vector<ScriptAsk::Question>(asks ? 1 : 0, upToDate));
@@ -57,23 +59,21 @@ TEST_F(WeatherCommands, EndYesterdayAndAskBeforeTheyOverwrite) {
         for (int day = 1; day <= 195; ++day) EXPECT_EQ(SourceOf(day), day < from ? "old" : "kesta") << day;
         if (range.From == 0) {
             EXPECT_EQ(report.Ending, CommandEnding::Declined);
-            EXPECT_TRUE(User.Fetched.empty());
+            EXPECT_TRUE(Fetched.empty());
             continue;
         }
         EXPECT_EQ(report.Ending, CommandEnding::Done);
         EXPECT_FALSE(State.DownloadFailed);
-        EXPECT_THAT(User.Fetched, ElementsAre(Url));
+        EXPECT_THAT(Fetched, ElementsAre("0603rd.txt"));
         EXPECT_EQ(report.Status,
                   "Weather file updated from KESTA between " + JulianToShortText(dayZero + from) + " and 07-14-03");
     }
 }
 
 TEST_F(WeatherCommands, KeepTheTextUnderBothNames) {
-    User.NetworkStates = {"Connected..."};
     Bring(Append, "\n\t2003,1,6\n\n2003,2,6");
     EXPECT_EQ(Directory.Raw("0603rd.txt"), "\r\n2003,1,6\r\n2003,2,6");
     EXPECT_EQ(Directory.Raw("kesta.03"), Directory.Raw("0603rd.txt"));
-    EXPECT_THAT(States, ElementsAre("Connected...", "Copying data to weather file", "Download Succeeded"));
 }
 
 TEST_F(WeatherCommands, AskAboutDaysThatTheTextLacks) {
