@@ -35,7 +35,7 @@ void mnuNew_Click(frmField& form) {
         TheScreen().Tell("Veraqua keeps at most 100 fields.");
         return;
     }
-    cmd_Cancel_Click(form);
+    SelectNothing(form);
     ListCrops(form.comboCrops);
     State.CurrentField = static_cast<std::int16_t>(row);
     form.cmd_Cancel.Visible = true;

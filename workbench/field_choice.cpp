@@ -40,7 +40,7 @@ void RunIfBehind() {
 void AbandonSelection(frmField& form) {
     State.DownloadFailed = false;
     State.ReportCancelled = false;
-    cmd_Cancel_Click(form);
+    SelectNothing(form);
     State.StationCode = NoStation;
     Show(FormName::frmField);
 }
@@ -115,13 +115,13 @@ void mnuSelect_Click(frmField& form) {
         ListFields(form);  // which tells so
         return;
     }
-    cmd_Cancel_Click(form);
+    SelectNothing(form);
     form.cmd_Cancel.Visible = true;
     ListFields(form);
     Focus(form.ComboField);
 }
 
-void cmd_Cancel_Click(frmField& form) {
+void SelectNothing(frmField& form) {
     form_clear(form);
     ForgetPick(form);
     State.CurrentField = 0;

@@ -17,6 +17,9 @@ bool ExpectField(std::string_view text = "Please select or initialize a field be
 /// Takes the field in work up again from its file, with its weather, and runs it where it stands behind yesterday.
 void SelectField(frmField& form);
 
+/// Clears the workbench and leaves no field in work.
+void SelectNothing(frmField& form);
+
 /// A list of the workbench in which the user is to pick something is given up.
 void ForgetPick(frmField& form);
 
@@ -25,6 +28,5 @@ void OfferList(frmField& form);
 
 void ComboField_Click(frmField& form);
 void mnuSelect_Click(frmField& form);
-void cmd_Cancel_Click(frmField& form);
 
 }  // namespace veraqua

@@ -45,6 +45,8 @@ void ShowFilled(FormName form) {
     Fill(form);
 }
 
+void cmd_Cancel_Click(frmField& form) { SelectNothing(form); }
+
 void MnuPred_Click(frmField&) {
     if (!ExpectField()) return;
     UpdateField(TheScreen());

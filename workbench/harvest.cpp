@@ -153,7 +153,7 @@ void mnuDelete_Click(frmField& form) {
     ForgetPick(form);
     form.BackupName.clear();
     if (!ExpectField("Please select a field to delete.")) {
-        cmd_Cancel_Click(form);
+        SelectNothing(form);
         form.cmd_Cancel.Visible = true;
         form.DeletePending = true;
         ListFields(form);
@@ -175,7 +175,7 @@ void mnuRestore_Click(frmField& form) {
         TheScreen().Tell("No deleted fields found on disk!", "Warning");
         return;
     }
-    cmd_Cancel_Click(form);
+    SelectNothing(form);
     form.cmd_Cancel.Visible = true;
     form.RestorePending = true;
     OfferList(form);
@@ -189,7 +189,7 @@ void mnuRestore_Click(frmField& form) {
 
 void RestorePicked(frmField& form, int number) {
     if (!RestoreField(form.Backups.at(static_cast<std::size_t>(number - 1)))) return;
-    cmd_Cancel_Click(form);
+    SelectNothing(form);
     ListFields(form);
 }
 

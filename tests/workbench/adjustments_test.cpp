@@ -1,0 +1,129 @@
+#include "tests/workbench/field_menu_fixture.h"
+
+namespace veraqua {
+
+namespace {
+
+/// Roots of 0.3 m that don't grow, so that the root zone holds 42 mm all along.
+AField ShallowField() { return AField().Roots(0.3F, 0.3F); }
+
+struct AdjustmentsTest : FieldMenuTest {
+    void SelectNew(const AField& field) {
+        Plant(field, 1);
+        Select(0);
+    }
+
+    static FieldFile Stored() { return LoadFieldFile(1); }
+    static float WaterOn(JulianValue day) {
+        return Stored().Days.at(static_cast<std::size_t>(day - Planting)).Available;
+    }
+};
+
+TEST_F(AdjustmentsTest, MadIsStoredInTheHeaderAloneAndRoundedToTheEvenHalf) {
+    SelectNew(AField().Hay());
+    const std::string rows = Directory.Raw("stat.dat");
+    State.Hay.FieldId = "OTHER";  // as after a walk over the fields
+    Menu.Click("mnu_MAD");
+    EXPECT_EQ(Form.lblCurrMAD.Caption, "Current MAD (%):   50");
+    EXPECT_EQ(Form.lblCurrMADC.Caption, "Current Critical MAD (%):   65");
+    for (const char* wrong : {"", "100.1", "-1", "1,5"}) {
+        Menu.Type("txtNewMAD", wrong).Click("cmdMADOK");
+        EXPECT_EQ(User.LastSaid(), "Input Error: Please enter a value from 0-100.");
+        EXPECT_EQ(User.FocusedControls.back(), "frmField.txtNewMAD");
+    }
+    Menu.Type("txtNewMAD", "34.5").Click("cmdMADOK");
+    EXPECT_EQ(User.LastSaid(), "Input Error: Please enter a value from 0-100 for Critical MAD.");
+    EXPECT_EQ(Stored().Hay.MAD, 50);
+    Menu.Type("txtNewMADC", "100").Click("cmdMADOK");
+    EXPECT_EQ(User.LastSaid(), ": New MAD set to: 34.5%");
+    EXPECT_EQ(Stored().Hay.MAD, 34);
+    EXPECT_EQ(Stored().Hay.MADCritical, 100);
+    EXPECT_EQ(Stored().Hay.FieldId.Text(), "CREEK");
+    EXPECT_EQ(State.Stat[1].MadNow, 34);
+    EXPECT_EQ(Directory.Raw("stat.dat"), rows);
+    EXPECT_EQ(Form.lblChange.Caption, "Takes effect at the next run of the field.");
+}
+
+TEST_F(AdjustmentsTest, AFieldWhoseEfficiencyIsZeroCanBeRepaired) {
+    SelectNew(AField().Content(40));  // so dry that the next run asks for irrigation at once
+    Menu.Click("mnuIEffic");
+    EXPECT_EQ(Form.lblCurrIRR.Caption, "Current Irr. Efficiency (%):   85");
+    Menu.Type("TxtNewIRR", "0").Click("cmdIRROK");
+    EXPECT_EQ(User.LastSaid(), ": New Irrigation Efficiency set to: 0%");
+    State.Stat[1].LastDay = Today - 2;
+    SaveFieldRow(User, 1);
+    const auto before = Files();
+    Select(0);
+    EXPECT_EQ(User.Failures.size(), 1U);
+    EXPECT_EQ(Files(), before);
+    EXPECT_TRUE(Form.lbl_ID.Visible);
+    Menu.Click("mnuIEffic").Type("TxtNewIRR", "62.5").Click("cmdIRROK");
+    EXPECT_EQ(Stored().Field.IrrEff, 0.625F);
+    Select(0);
+    EXPECT_GT(State.Stat[1].NextIrrAmount, 0);
+}
+
+TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfTodayAndInTheRunFromThere) {
+    SelectNew(ShallowField());
+    Menu.Click("mnuDepletion");
+    EXPECT_EQ(Form.lblDeplVal.Caption, "Depletion (%) for 07-15-2003:  0");
+    EXPECT_EQ(Form.lblRootWater.Caption, "Available water in root zone:  0.5 in/ft");  // 42 mm
+    State.EnglishUnits = false;
+    Menu.Type("TxtNewDepl", "25").Click("cmdDeplOK");
+    // A quarter of the 42 mm is gone.
+    EXPECT_EQ(User.LastSaid(), ": New depletion set to: 25%\nNew water content in root zone set to: 31.5mm/m");
+    EXPECT_EQ(WaterOn(Today), 31.5F);
+    EXPECT_LT(WaterOn(Today + 1), 31.5F);
+    EXPECT_EQ(State.Updates[1], Today);
+    EXPECT_THAT(Form.lblChange.Caption, testing::StartsWith("Next irrigation moves from not known to 07-"));
+}
+
+TEST_F(AdjustmentsTest, AFieldBehindYesterdayTakesItsDepletionFromItsLastDayOn) {
+    Plant(ShallowField(), 1, Today - 3);
+    SelectField(User, 1);
+    State.WeatherLastJulian = Today - 3;
+    Menu.Click("mnuDepletion").Type("TxtNewDepl", "25").Click("cmdDeplOK");
+    EXPECT_EQ(State.Updates[1], Today - 3);
+    EXPECT_EQ(WaterOn(Today - 3), 31.5F);
+    EXPECT_LT(WaterOn(Today - 2), 31.5F);
+}
+
+TEST_F(AdjustmentsTest, WhatCannotBeSetLeavesTheFilesAlone) {
+    Plant(AField(), 1, Today - 1, Today - Planting);  // no row for today
+    Select(0);
+    auto before = Files();
+    Menu.Click("mnuDepletion").Type("TxtNewDepl", "30").Click("cmdDeplOK");
+    EXPECT_EQ(User.Told.back().Title, "Veraqua Warning");
+    EXPECT_EQ(Files(), before);
+    EXPECT_EQ(State.Stat[1].Depletion, 30);
+
+    SelectNew(AField().Efficiency(0));  // its run fails where it has to tell an amount
+    before = Files();
+    Menu.Click("mnuDepletion").Type("TxtNewDepl", "60").Click("cmdDeplOK");
+    EXPECT_EQ(User.Failures.size(), 1U);
+    EXPECT_EQ(Files(), before);
+    EXPECT_EQ(State.Updates[1], 0);
+    EXPECT_EQ(State.Stat[1].Depletion, 0);
+}
+
+TEST_F(AdjustmentsTest, AResetStartsFromTheSoilOfPlantingWithoutAnyEvents) {
+    SelectNew(AField().Content(60).Rain(Planting + 9, 20).Mad(40).With([](FieldFile& file) {
+        file.Lists.History = {{Planting + 10, {100, 100, 100, 100}}};
+    }));
+    State.Updates[1] = Today - 5;
+    Menu.Click("mnuDepletion").Click("cmd_Reset");
+    EXPECT_EQ(Stored().Lists.Rain.size(), 1U);  // the answer was No
+    User.Answers = {true};
+    Menu.Click("cmd_Reset");
+    EXPECT_EQ(User.LastSaid(), "Veraqua: Depletion has been reset");
+    EXPECT_FLOAT_EQ(WaterOn(Planting), 30);  // 100 mm/m in 0.3 m
+    EXPECT_TRUE(Stored().Lists.Rain.empty());
+    EXPECT_EQ(Stored().Field.MAD, 40);
+    EXPECT_EQ(State.Updates[1], 0);
+    EXPECT_EQ(State.Stat[1].LastDay, Today - 1);
+    EXPECT_TRUE(Form.lblChange.Visible && !Form.cmd_Reset.Visible);
+}
+
+}  // namespace
+
+}  // namespace veraqua

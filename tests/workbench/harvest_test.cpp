@@ -1,0 +1,156 @@
+#include "workbench/harvest.h"
+
+#include <filesystem>
+
+#include "tests/workbench/field_menu_fixture.h"
+
+namespace veraqua {
+
+namespace {
+
+using Ids = std::vector<std::string>;
+
+struct HarvestTest : FieldMenuTest {
+    /// Fields "1", "2" and so on in `rows`, each with a prediction and a depletion date of its own.
+    void PlantRows(std::initializer_list<int> rows) {
+        for (const int row : rows) {
+            State.Updates[row] = 0;
+            Plant(AField().Id(std::to_string(row)), row);
+            State.Stat[row].NextIrrAmount = static_cast<std::int16_t>(row);
+            State.Updates[row] = Today - row;
+            SaveFieldRow(User, row);
+        }
+    }
+
+    /// The field in `position` of the list.
+    void Harvest(int position) {
+        User.Answers = {true};
+        Menu.Click("mnuDelete").Pick("ComboField", position);
+    }
+
+    /// The fields by their rows, as files and directory say alike.
+    static Ids FieldsInRows() {
+        Ids ids;
+        for (const int row : RowsInUse()) {
+            EXPECT_EQ(State.Stat[row].FieldId, LoadFieldFile(row).Header().FieldId);
+            ids.push_back(State.Stat[row].FieldId.Text());
+        }
+        return ids;
+    }
+};
+
+TEST_F(HarvestTest, LaterFieldsMoveUpWithTheirRowsAndDates) {
+    PlantRows({1, 2, 3, 4, 5});
+    const std::string file = Directory.Raw("field2.dat");
+    Harvest(1);
+    EXPECT_EQ(User.LastAsked(), "Delete Confirmation: Please confirm you wish to harvest/delete Field ID = 2         ");
+    EXPECT_EQ(User.LastSaid(),
+              "Field Harvested/Deleted: Your field was deleted and backed up to 2         _150703_ 1.dat");
+    EXPECT_EQ(Directory.Raw(Form.BackupName), file);
+    EXPECT_EQ(FieldsInRows(), (Ids{"1", "3", "4", "5"}));
+    EXPECT_EQ(State.Updates[2], Today - 3);
+    EXPECT_EQ(Directory.Raw("stat.dat").size(), 164U);
+    EXPECT_FALSE(Directory.Has("field5.dat"));
+    EXPECT_EQ(State.FieldCount, 4);
+    EXPECT_EQ(State.CurrentField, 0);
+    EXPECT_TRUE(Form.ComboField.Visible && !Form.lbl_ID.Visible);
+}
+
+TEST_F(HarvestTest, AGapClosesAndTheLastFieldLeavesAFreshDirectory) {
+    PlantRows({1, 4});
+    State.EnglishUnits = false;
+    Harvest(0);
+    EXPECT_EQ(FieldsInRows(), Ids{"4"});
+    EXPECT_TRUE(Directory.Has("field1.dat"));
+    Harvest(0);
+    EXPECT_EQ(Directory.Raw("stat.dat"), BlankStatFile(100));
+    EXPECT_EQ(Directory.Raw("updates.dat"), BlankUpdatesFile(100));
+    EXPECT_EQ(User.Told.back().Title, "Field Harvested/Deleted");
+    EXPECT_FALSE(State.EnglishUnits);
+}
+
+TEST_F(HarvestTest, TheBackupBearsTheIdOfTheHeaderAndTheFirstFreeCounter) {
+    for (int harvest = 0; harvest < 2; ++harvest) {
+        Plant(AField().Id("a/b"), 1);
+        Harvest(0);
+    }
+    EXPECT_TRUE(Directory.Has("a-b       _150703_ 1.dat"));
+    EXPECT_EQ(Form.BackupName, "a-b       _150703_ 2.dat");
+}
+
+TEST_F(HarvestTest, AHarvestThatIsDeclinedOrRefusedChangesNothing) {
+    PlantRows({1, 2, 3});
+    Select(0);
+    const auto before = Files();
+    Menu.Click("mnuDelete");
+    EXPECT_EQ(Files(), before);
+
+    std::filesystem::create_directory(Directory.Path() + "1         _150703_ 1.row");
+    User.OtherAnswer = true;
+    Menu.Click("mnuDelete");
+    EXPECT_THAT(User.LastSaid(), testing::StartsWith("File Error: Your field was NOT backed up.  1         _150703_"));
+    EXPECT_EQ(Form.BackupName, "");
+    EXPECT_EQ(FieldsInRows(), (Ids{"1", "2", "3"}));
+
+    Directory.Delete("1         _150703_ 1.row");
+    Directory.Delete("field3.dat");
+    Menu.Click("mnuDelete");
+    EXPECT_THAT(User.LastSaid(),
+                testing::StartsWith("File Error: Field file renumbering error (for files past deleted one).  field3"));
+    EXPECT_TRUE(Directory.Has("field1.dat"));
+    EXPECT_EQ(State.CurrentField, 1);
+}
+
+TEST_F(HarvestTest, ARestoredFieldIsAsItWas) {
+    PlantRows({1, 2, 3});
+    const StatRecord row = State.Stat[2];
+    const std::string file = Directory.Raw("field2.dat");
+    Harvest(1);
+    Menu.Click("mnuRestore").Pick("ComboField", 0);
+    EXPECT_EQ(User.LastSaid(), "Field Restored: Field ID = 2 was restored from 2         _150703_ 1.dat");
+    EXPECT_EQ(FieldsInRows(), (Ids{"1", "3", "2"}));
+    EXPECT_EQ(State.Stat[3], row);
+    EXPECT_EQ(State.Updates[3], Today - 2);
+    EXPECT_EQ(Directory.Raw("field3.dat"), file);
+    EXPECT_THAT(files::Names(), testing::Not(testing::Contains(testing::HasSubstr("_150703_"))));
+    EXPECT_EQ(State.FieldCount, 3);
+    EXPECT_EQ(Form.ComboField.Items.size(), 3U);  // the fields again, for the next selection
+}
+
+TEST_F(HarvestTest, ABackupFromElsewhereIsRunFromPlanting) {
+    PlantRows({1});
+    Harvest(0);
+    Directory.Delete("1         _150703_ 1.row");
+    EXPECT_EQ(RestoreField(Form.BackupName), 1);
+    EXPECT_THAT(User.LastSaid(), testing::EndsWith("Its depletion date was not kept. It was run from planting."));
+    EXPECT_EQ(State.Stat[1].LastDay, Today - 1);
+    EXPECT_EQ(State.Updates[1], 0);
+    EXPECT_LT(LoadFieldFile(1).Days.at(1).EtrSum, 8);  // of one day, made anew; the rows before had another
+}
+
+TEST_F(HarvestTest, WhatCannotBeRestoredStaysABackup) {
+    PlantRows({1, 2});
+    Harvest(0);
+    const std::string backup = Form.BackupName;
+    PlantRows({1});
+    auto before = Files();
+    EXPECT_EQ(RestoreField(backup), std::nullopt);
+    EXPECT_EQ(User.Told.back().Title, "Duplicate Field ID");
+    for (const char* name : {"field1.dat", "no such file"}) EXPECT_THROW(RestoreField(name), RunTimeFailure) << name;
+    EXPECT_EQ(Files(), before);
+    Harvest(0);
+    for (const std::string& name : {backup, backup.substr(0, 21) + "row"}) {
+        const std::string whole = Directory.Raw(name);
+        Directory.Put(name, whole.substr(0, whole.size() - 1));
+        before = Files();
+        EXPECT_THROW(RestoreField(backup), RunTimeFailure) << name;
+        EXPECT_EQ(Files(), before);
+        EXPECT_EQ(State.FieldCount, 0);
+        Directory.Put(name, whole);
+    }
+    EXPECT_EQ(RestoreField(backup), 1);
+}
+
+}  // namespace
+
+}  // namespace veraqua
