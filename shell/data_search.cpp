@@ -1,0 +1,49 @@
+#include "shell/data_search.h"
+
+#include <cstdlib>
+
+#include "core/files.h"
+#include "core/state.h"
+#include "core/text.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr std::string_view NetworkFile = "network.txt";
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+}  // namespace
+
+std::vector<std::string> DefaultDataDirectories() {
+    const std::string home = Environment("XDG_DATA_HOME");
+    const std::string ofAllPrograms = home.empty() ? Environment("HOME") + "/.local/share" : home;
+    return {ofAllPrograms + "/veraqua", ofAllPrograms + "/Veraqua"};
+}
+
+bool IsDataDirectory(const std::string& path) {
+    if (!files::DirectoryExists(path)) return false;
+    files::Open(path, files::Access::Read);
+    const bool hasMarker = files::Exists(DataDirectoryMarker);
+    files::Close();
+    return hasMarker;
+}
+
+std::string WithSlash(std::string url) {
+    if (!url.ends_with('/')) url += '/';
+    return url;
+}
+
+void TakeNetworkOfUser() {
+    const auto bytes = files::Read(NetworkFile);
+    if (!bytes) return;
+    const std::string_view line = std::string_view(*bytes).substr(0, bytes->find_first_of("\r\n"));
+    const std::string url = Utf8FromLatin1(Trimmed(line));
+    if (!url.empty()) State.BaseUrl = WithSlash(url);
+}
+
+}  // namespace veraqua
