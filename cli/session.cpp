@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <system_error>
 
 #include <fmt/format.h>
@@ -11,48 +10,9 @@
 #include "core/field_file.h"
 #include "core/state.h"
 #include "core/text.h"
+#include "shell/data_search.h"
 
 namespace veraqua {
-
-namespace {
-
-constexpr std::string_view Marker = "weathdef.dat";
-constexpr std::string_view NetworkFile = "network.txt";
-
-std::string Environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
-/// Directory for the user's data of all programs, with a final "/".
-std::string DataHome() {
-    const std::string home = Environment("XDG_DATA_HOME");
-    return (home.empty() ? Environment("HOME") + "/.local/share" : home) + "/";
-}
-
-std::string WithSlash(std::string url) {
-    if (!url.ends_with('/')) url += '/';
-    return url;
-}
-
-/// Looks without making anything, a lock neither: what was typed may be any directory.
-bool IsDataDirectory(const std::string& path) {
-    if (!files::DirectoryExists(path)) return false;
-    files::Open(path, files::Access::Read);
-    const bool hasMarker = files::Exists(Marker);
-    files::Close();
-    return hasMarker;
-}
-
-/// The first line of network.txt, empty where there is none.
-std::string NetworkFromFile() {
-    const auto bytes = files::Read(NetworkFile);
-    if (!bytes) return {};
-    const std::string_view line = std::string_view(*bytes).substr(0, bytes->find_first_of("\r\n"));
-    return Utf8FromLatin1(Trimmed(line));
-}
-
-}  // namespace
 
 bool Session::Prepare() {
     Outside.AllowProgress(!Options.JsonWanted);
@@ -64,27 +24,28 @@ bool Session::Prepare() {
 }
 
 bool Session::OpenData(files::Access access) {
-    std::vector<std::string> candidates{DataHome() + "veraqua", DataHome() + "Veraqua"};
-    if (Options.DataDirectory) candidates = {*Options.DataDirectory};
+    const std::vector<std::string> candidates =
+        Options.DataDirectory ? std::vector{*Options.DataDirectory} : DefaultDataDirectories();
     for (const std::string& path : candidates) {
         if (!IsDataDirectory(path)) continue;
         files::Open(path, access);
         StartSystem();
         return true;
     }
-    Outside.Tell(fmt::format("There is no data directory (one with {}) at {}. \"veraqua-cli init\" makes one.", Marker,
-                             fmt::join(candidates, " or ")));
+    Outside.Tell(fmt::format("There is no data directory (one with {}) at {}. \"veraqua-cli init\" makes one.",
+                             DataDirectoryMarker, fmt::join(candidates, " or ")));
     return false;
 }
 
-std::string Session::DirectoryToMake() const { return Options.DataDirectory.value_or(DataHome() + "veraqua"); }
+std::string Session::DirectoryToMake() const {
+    return Options.DataDirectory.value_or(DefaultDataDirectories().front());
+}
 
 void Session::StartSystem() {
     StartUp(Outside);
     State.StartDate = Outside.Now();
     State.EnglishUnits = Options.Units == "english";
-    const std::string fromFile = NetworkFromFile();
-    if (!fromFile.empty()) State.BaseUrl = WithSlash(fromFile);
+    TakeNetworkOfUser();
     if (!Options.BaseUrl.empty()) State.BaseUrl = WithSlash(Options.BaseUrl);
 }
 
