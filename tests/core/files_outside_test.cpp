@@ -7,8 +7,8 @@
 #include <gmock/gmock.h>
 
 #include "core/failure.h"
-#include "tests/core/failing_disks.h"
 #include "tests/core/files_fixture.h"
+#include "tests/support/failing_disks.h"
 
 namespace veraqua::files {
 
@@ -40,19 +40,6 @@ TEST_F(FilesTest, AReportReplacesTheOldOneWhollyOrNotAtAll) {
         }
         EXPECT_THAT(text, HasSubstr("can't be written: No space left on device"));
     }
-}
-
-TEST_F(FilesTest, AReportThatDiedHalfWrittenIsNoHindrance) {
-    for (int n = 2; n <= 4; ++n) {
-        DyingDisk disk(Path());
-        disk.RefuseCall(n);
-        InstallDisk(&disk);
-        EXPECT_THROW(WriteOutside(Path() + "report.txt", "of today"), Died);
-        UseQuickDisk();
-    }
-    EXPECT_FALSE(fs::exists(Path() + "report.txt"));
-    WriteOutside(Path() + "report.txt", "of today");
-    EXPECT_EQ(OnDisk().at("report.txt"), "of today");
 }
 
 TEST_F(FilesTest, AReportGoesWhereItsNamePoints) {

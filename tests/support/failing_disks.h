@@ -2,27 +2,52 @@
 
 #include <sys/types.h>
 
-#include <cstddef>
+#include <cerrno>
 #include <map>
 #include <string>
 #include <utility>
 
-#include "tests/core/files_fixture.h"
+#include "core/disk.h"
 
 namespace veraqua::files {
+
+/// A directory's files with their contents.
+using Contents = std::map<std::string, std::string>;
+
+/// The system's disk without the waiting: no test here pulls a plug. It counts how often it was waited for.
+class QuickDisk : public Disk {
+  public:
+    int Flush(int) override { return ++Flushes, 0; }
+    int FlushFileSystem(int) override { return ++Flushes, 0; }
+
+    int Flushes = 0;
+};
 
 /// A disk that refuses one call, or that one and all after it. A write is done by half before it is refused.
 class RefusingDisk : public QuickDisk {
   public:
-    int Open(int directory, const char* name, int flags, mode_t mode) override;
-    ssize_t Write(int file, const char* bytes, std::size_t count, off_t position) override;
-    int SetSize(int file, off_t size) override;
-    int Reserve(int file, off_t position, off_t size) override;
-    int Flush(int file) override;
-    int FlushFileSystem(int file) override;
-    int Rename(int directory, const char* from, const char* to) override;
-    int Unlink(int directory, const char* name) override;
-    int MakeDirectory(const char* path) override;
+    int Open(int directory, const char* name, int flags, mode_t mode) override {
+        return IsRefused() ? Refuse() : QuickDisk::Open(directory, name, flags, mode);
+    }
+    ssize_t Write(int file, const char* bytes, std::size_t count, off_t position) override {
+        const bool alreadyRefuses = left_ < 0;
+        if (!IsRefused()) return QuickDisk::Write(file, bytes, count, position);
+        if (!alreadyRefuses) QuickDisk::Write(file, bytes, count / 2, position);
+        return Refuse();
+    }
+    int SetSize(int file, off_t size) override { return IsRefused() ? Refuse() : QuickDisk::SetSize(file, size); }
+    int Reserve(int file, off_t position, off_t size) override {
+        return IsRefused() ? Refuse() : QuickDisk::Reserve(file, position, size);
+    }
+    int Flush(int file) override { return IsRefused() ? Refuse() : QuickDisk::Flush(file); }
+    int FlushFileSystem(int file) override { return IsRefused() ? Refuse() : QuickDisk::FlushFileSystem(file); }
+    int Rename(int directory, const char* from, const char* to) override {
+        return IsRefused() ? Refuse() : QuickDisk::Rename(directory, from, to);
+    }
+    int Unlink(int directory, const char* name) override {
+        return IsRefused() ? Refuse() : QuickDisk::Unlink(directory, name);
+    }
+    int MakeDirectory(const char* path) override { return IsRefused() ? Refuse() : QuickDisk::MakeDirectory(path); }
 
     /// From now on the `n`th call is refused, counted from 1.
     void RefuseCall(int n) { left_ = n; }
@@ -34,7 +59,13 @@ class RefusingDisk : public QuickDisk {
     virtual int Refuse() = 0;
 
   private:
-    bool IsRefused();
+    bool IsRefused() {
+        if (left_ <= 0) return left_ < 0;
+        --left_;
+        if (left_ > 0) return false;
+        if (lasts_) left_ = -1;
+        return true;
+    }
 
     bool lasts_;
     int left_ = 0;  ///< 0: none is refused, or it has been; -1: all are
@@ -46,7 +77,7 @@ class FailingDisk : public RefusingDisk {
     FailingDisk(int n, int error, bool lasts) : RefusingDisk(lasts), error_(error) { RefuseCall(n); }
 
   protected:
-    int Refuse() override;
+    int Refuse() override { return errno = error_, -1; }
 
   private:
     int error_;
@@ -102,7 +133,7 @@ class StumblingDisk : public WatchedDisk {
     StumblingDisk(std::string directory, int n) : WatchedDisk(std::move(directory), false) { RefuseCall(n); }
 
   protected:
-    int Refuse() override;
+    int Refuse() override { return errno = EIO, -1; }
 };
 
 }  // namespace veraqua::files

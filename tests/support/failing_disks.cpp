@@ -1,10 +1,9 @@
-#include "tests/core/failing_disks.h"
+#include "tests/support/failing_disks.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <filesystem>
 #include <utility>
 
@@ -25,50 +24,6 @@ std::string ContentsOf(int file) {
 }
 
 }  // namespace
-
-bool RefusingDisk::IsRefused() {
-    if (left_ <= 0) return left_ < 0;
-    --left_;
-    if (left_ > 0) return false;
-    if (lasts_) left_ = -1;
-    return true;
-}
-
-int RefusingDisk::Open(int directory, const char* name, int flags, mode_t mode) {
-    return IsRefused() ? Refuse() : QuickDisk::Open(directory, name, flags, mode);
-}
-
-ssize_t RefusingDisk::Write(int file, const char* bytes, std::size_t count, off_t position) {
-    const bool alreadyRefuses = left_ < 0;
-    if (!IsRefused()) return QuickDisk::Write(file, bytes, count, position);
-    if (!alreadyRefuses) QuickDisk::Write(file, bytes, count / 2, position);
-    return Refuse();
-}
-
-int RefusingDisk::SetSize(int file, off_t size) { return IsRefused() ? Refuse() : QuickDisk::SetSize(file, size); }
-
-int RefusingDisk::Reserve(int file, off_t position, off_t size) {
-    return IsRefused() ? Refuse() : QuickDisk::Reserve(file, position, size);
-}
-
-int RefusingDisk::Flush(int file) { return IsRefused() ? Refuse() : QuickDisk::Flush(file); }
-
-int RefusingDisk::FlushFileSystem(int file) { return IsRefused() ? Refuse() : QuickDisk::FlushFileSystem(file); }
-
-int RefusingDisk::Rename(int directory, const char* from, const char* to) {
-    return IsRefused() ? Refuse() : QuickDisk::Rename(directory, from, to);
-}
-
-int RefusingDisk::Unlink(int directory, const char* name) {
-    return IsRefused() ? Refuse() : QuickDisk::Unlink(directory, name);
-}
-
-int RefusingDisk::MakeDirectory(const char* path) { return IsRefused() ? Refuse() : QuickDisk::MakeDirectory(path); }
-
-int FailingDisk::Refuse() {
-    errno = error_;
-    return -1;
-}
 
 WatchedDisk::WatchedDisk(std::string directory, bool lasts)
     : RefusingDisk(lasts), directory_(std::move(directory)), flushedNames_(CurrentNames()) {
@@ -131,11 +86,6 @@ Contents WatchedDisk::Left(PowerCut cut) const {
             left[name] = flushed != flushedContents_.end() ? flushed->second : "";
     }
     return left;
-}
-
-int StumblingDisk::Refuse() {
-    errno = EIO;
-    return -1;
 }
 
 }  // namespace veraqua::files
