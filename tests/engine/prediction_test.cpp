@@ -13,36 +13,38 @@ namespace {
 
 using testing::HasSubstr;
 
+/// A day of a field's story, and the irrigation that is predicted behind it.
+struct Step {
+    JulianValue Day;
+    int Depletion;
+    JulianValue NextIrrDay;
+    int Amount;
+    float GddSum = 390;
+};
+
 /// A field seen day by day: the weather is real through day 10, the MAD is 50 %. The need of a day is twice its
-/// depletion in mm, since the root zone holds 100 mm and half of the irrigation gets lost.
+/// depletion in mm, since the root zone holds 100 mm and half of the irrigation gets lost. Alfalfa is cut at 400 degree
+/// days and has a critical MAD of 70 %.
 struct Prediction : testing::Test {
     Prediction() {
         Limits.LastWeatherDay = 10;
         Limits.Gdd = 400;
+        Limits.MADCritical = 70;
         Result.Row.NextIrrAmount = 7;
     }
 
-    /// Alfalfa cut at 400 degree days that must dry for so many days before, with a critical MAD of 70 %.
-    void UseHay(int dryDays = 5) {
-        Limits.IsHay = true;
-        Limits.DryDays = dryDays;
-        Limits.MADCritical = 70;
-    }
-
-    void Day(JulianValue day, int depletion, float gddSum = 0) {
+    void Day(JulianValue day, int depletion, float gddSum = 390) {
         if (!Checks) Checks.emplace(Limits);
         const auto percent = static_cast<float>(depletion);
         Checks->Check({day, percent, 50, 100, 100 - percent, Efficiency, gddSum}, Result);
     }
 
-    /// From day 18 on the depletion rises by 2 % a day, from 42 %, and comes to the MAD on day 22.
-    void DaysOfGrowth(JulianValue last) {
-        for (JulianValue day = 18; day <= last; ++day) Day(day, 42 + 2 * (day - 18), 390);
-    }
-
-    void ExpectIrrigation(JulianValue day, int amount) const {
-        EXPECT_EQ(Result.Row.NextIrrDay, day);
-        EXPECT_EQ(Result.Row.NextIrrAmount, amount);
+    void Play(const std::vector<Step>& story) {
+        for (const Step& step : story) {
+            Day(step.Day, step.Depletion, step.GddSum);
+            EXPECT_EQ(Result.Row.NextIrrDay, step.NextIrrDay) << "day " << step.Day;
+            EXPECT_EQ(Result.Row.NextIrrAmount, step.Amount) << "day " << step.Day;
+        }
     }
 
     SeasonLimits Limits;
@@ -51,76 +53,46 @@ struct Prediction : testing::Test {
     Outlook Result;
 };
 
-TEST_F(Prediction, IsTheFirstForecastDayAtTheMad) {
+TEST_F(Prediction, FollowsTheDepletionOfTheDays) {
+    for (const std::vector<Step>& story : std::vector<std::vector<Step>>{
+             {{10, 48, 0, 7},
+              {11, 49, 0, 7},
+              {12, 50, 12, 100},
+              {13, 55, 12, 100}},  // the first forecast day at the MAD
+             // That of a real day is wiped by the next, but its amount stays; that of the last one stays.
+             {{8, 60, 8, 120}, {9, 40, 0, 120}, {10, 50, 10, 100}, {11, 60, 10, 100}},
+             {{9, 100, 0, 7}, {10, 100, 10, 200}},  // for a dried-out field on the last real day only
+             {{10, 49, 0, 7}, {11, 100, 0, 7}, {12, 99, 12, 198}},
+             {{11, 51, 11, 102}, {12, 20, 0, 102}, {13, 53, 13, 106}}}) {  // refuted by water dated in the future
+        Checks.reset();
+        Result = {};
+        Result.Row.NextIrrAmount = 7;
+        Play(story);
+    }
+    EXPECT_EQ(Result.Row.LastDay, 0);
     Day(10, 48);
-    Day(11, 49);
-    ExpectIrrigation(0, 7);
-    Day(12, 50);
-    Day(13, 55);
-    ExpectIrrigation(12, 100);
     EXPECT_EQ(Result.Row.LastDay, 10);
     EXPECT_EQ(Result.Row.Depletion, 48);
     EXPECT_EQ(Result.Row.MadNow, 50);
 }
 
-TEST_F(Prediction, OfARealDayIsWipedByTheNextButItsAmountStays) {
-    Day(8, 60);
-    ExpectIrrigation(8, 120);
-    Day(9, 40);
-    ExpectIrrigation(0, 120);
-    Day(10, 50);  // that of the last one stays
-    Day(11, 60);
-    ExpectIrrigation(10, 100);
-}
-
-TEST_F(Prediction, IsMadForADriedOutFieldOnTheLastRealDayOnly) {
-    Day(9, 100);
-    ExpectIrrigation(0, 7);
-    Day(10, 100);
-    ExpectIrrigation(10, 200);
-}
-
-TEST_F(Prediction, SkipsAForecastThatJumpsOverNinetyNinePercent) {
-    Day(10, 49);
-    Day(11, 100);
-    ExpectIrrigation(0, 7);
-    Day(12, 99);
-    ExpectIrrigation(12, 198);
-}
-
-TEST_F(Prediction, IsRefutedByWaterDatedInTheFuture) {
-    Day(11, 51);
-    Day(12, 20);
-    ExpectIrrigation(0, 102);
-    Day(13, 53);
-    ExpectIrrigation(13, 106);
-}
-
 TEST_F(Prediction, OfAnEarlierRunGoesWhereItLiesAheadOrTheMadIsNotReached) {
     Result.Row.NextIrrDay = 20;
-    Day(11, 60);
-    ExpectIrrigation(11, 120);
+    Play({{11, 60, 11, 120}});
     for (const JulianValue day : {5, 12}) {  // a run without a real day keeps what does not ...
         Result.Row.NextIrrDay = day;
-        Day(12, 70);
-        ExpectIrrigation(day, 120);
+        Play({{12, 70, day, 120}});
     }
-    Day(13, 10);  // ... until a day below the MAD
-    ExpectIrrigation(0, 120);
+    Play({{13, 10, 0, 120}});  // ... until a day below the MAD
 }
 
-TEST_F(Prediction, NeedsAnEfficiency) {
+TEST_F(Prediction, NeedsAnEfficiencyAndIsRoundedHalfToEven) {
     Efficiency = 0;
-    Day(11, 49);
     EXPECT_FAILURE(Day(12, 50), HasSubstr("irrigation efficiency"));
-}
-
-TEST(IrrigationNeeded, IsRoundedHalfToEven) {
-    Outlook outlook;
-    PredictIrrigation({12, 50, 50, 100, 97.5F, 1, 0}, outlook);
-    EXPECT_EQ(outlook.Row.NextIrrAmount, 2);
-    PredictIrrigation({12, 50, 50, 100, 96.5F, 1, 0}, outlook);
-    EXPECT_EQ(outlook.Row.NextIrrAmount, 4);
+    for (const auto& [available, amount] : {std::pair{97.5F, 2}, {96.5F, 4}}) {
+        PredictIrrigation({12, 50, 50, 100, available, 1, 0}, Result);
+        EXPECT_EQ(Result.Row.NextIrrAmount, amount);
+    }
 }
 
 TEST_F(Prediction, TellsTheFirstDayOfThePresentSpellOfDryness) {
@@ -135,95 +107,76 @@ TEST_F(Prediction, TellsTheFirstDayOfThePresentSpellOfDryness) {
     }
 }
 
-TEST_F(Prediction, MarksTheFirstDayPastTheHarvestHeatSum) {
-    Day(11, 10, 400);
-    EXPECT_EQ(Result.SeasonEndDay, 0);
-    Day(12, 10, 400.5F);
-    Day(13, 10, 420);
-    EXPECT_EQ(Result.SeasonEndDay, 12);
-}
-
 TEST_F(Prediction, OfACuttingIsTheFirstDayAtItsHeatSumUntilItIsCut) {
-    UseHay();
-    Result.HayNextCutDay = Result.Row.NextCutDay = 40;  // of an earlier run, ahead of this one
-    Day(20, 10, 399);
-    EXPECT_EQ(Result.Row.NextCutDay, 0);
-    Result.HayNextCutDay = Result.Row.NextCutDay = 40;
-    Day(21, 10, 400);
-    Day(22, 10, 410);
-    EXPECT_EQ(Result.Row.NextCutDay, 21);
-    EXPECT_EQ(Result.HayNextCutDay, 21);
-    ExpectIrrigation(0, 7);  // without an irrigation in sight none is moved
-    Day(23, 10, 12);
-    EXPECT_EQ(Result.Row.NextCutDay, 0);
-    EXPECT_EQ(Result.HayNextCutDay, 0);
+    Limits.IsHay = true;
+    Limits.DryDays = 5;
+    Result.HayNextCutDay = 40;  // of an earlier run, ahead of this one
+    const std::vector<std::tuple<JulianValue, float, JulianValue>> days{
+        {20, 399, 0}, {21, 400, 21}, {22, 410, 21}, {23, 12, 0}};
+    for (const auto& [day, gddSum, cutting] : days) {
+        Play({{day, 10, 0, 7, gddSum}});  // without an irrigation in sight none is moved
+        EXPECT_EQ(Result.Row.NextCutDay, cutting);
+        EXPECT_EQ(Result.HayNextCutDay, cutting);
+    }
 }
 
-// The irrigation falls due on day 22, 3 days before the cutting on day 25: the field would still be wet.
-TEST_F(Prediction, PutsAnIrrigationBehindTheCuttingWhereTheCropCanWait) {
-    UseHay();
-    DaysOfGrowth(24);
-    ExpectIrrigation(22, 100);
-    Day(25, 70, 400);  // not above the critical MAD
-    ExpectIrrigation(26, 140);
-}
-
-TEST_F(Prediction, PutsAnIrrigationAheadOfTheDryingWhereTheCropCannotWait) {
-    UseHay();
-    DaysOfGrowth(24);
-    Day(25, 71, 400);
-    ExpectIrrigation(20, 2 * 46);  // 5 days ahead of the cutting, by the need of that day
-}
-
-TEST_F(Prediction, LeavesAnIrrigationThatGivesTheFieldTimeToDryOrFallsOnTheCutting) {
-    UseHay();
-    DaysOfGrowth(26);
-    Day(27, 70, 400);
-    ExpectIrrigation(22, 100);  // just the 5 days
-    Day(28, 10, 12);
-    Day(29, 60, 400);
-    ExpectIrrigation(29, 120);
+// From day 18 on the depletion rises by 2 % a day, from 42 %, and comes to the MAD on day 22. The cutting follows.
+TEST_F(Prediction, OfAnIrrigationGivesWayToTheDryingOfTheHay) {
+    Limits.IsHay = true;
+    Limits.DryDays = 5;
+    for (const Step& cutting : {Step{25, 70, 26, 140, 400},     // not above the critical MAD: behind the cutting
+                                Step{25, 71, 20, 92, 400},      // else ahead of the drying, by the need of that day
+                                Step{27, 70, 22, 100, 400}}) {  // just the 5 days
+        Checks.reset();
+        Result = {};
+        for (JulianValue day = 18; day < cutting.Day; ++day) Day(day, 42 + 2 * (day - 18));
+        Play({cutting});
+    }
+    Play({{28, 10, 0, 100, 12}, {29, 60, 29, 120, 400}});  // on the day of the cutting
 }
 
 TEST_F(Prediction, RemembersTheNeedsOfUpToAHundredDaysOfDrying) {
-    UseHay(100);
-    Day(20, 33, 390);
-    for (JulianValue day = 21; day < 120; ++day) Day(day, day < 100 ? 40 : 50, 390);
-    Day(120, 75, 400);
-    ExpectIrrigation(20, 66);
-    UseHay(101);
+    Limits.IsHay = true;
+    Limits.DryDays = 100;
+    Day(20, 33);
+    for (JulianValue day = 21; day < 120; ++day) Day(day, day < 100 ? 40 : 50);
+    Play({{120, 75, 20, 66, 400}});
+    Limits.DryDays = 101;
     EXPECT_FAILURE(PredictionChecks{Limits}, HasSubstr("101 days"));
 }
 
-struct ClosingCase {
-    JulianValue Today;
-    JulianValue LastDay;
-    float GddSum;
-    int Amount;
-    JulianValue SeasonEnd;
-};
+TEST_F(Prediction, MarksTheFirstDayPastTheHarvestHeatSum) {
+    for (const auto& [day, gddSum, end] : {std::tuple{11, 400.0F, 0}, {12, 400.5F, 12}, {13, 420.0F, 12}}) {
+        Day(day, 10, gddSum);
+        EXPECT_EQ(Result.SeasonEndDay, end);
+    }
+}
 
 // Planted on day 100 for at most 160 days and 1000 degree days.
 TEST(SeasonsClose, TellsWhetherTheCropIsOverOrNeedsNoWater) {
-    const std::vector<ClosingCase> cases{
-        {249, 260, 900, AmountNotRequired, 0},  // the longest season, and more than ten days ahead
-        {249, 260, 1001, AmountNotRequired, 0}, {250, 260, 900, AmountHarvest, 260},  // within ten days
-        {150, 259, 1001, AmountHarvest, 259},                             // ended by heat, however far ahead
-        {250, 259, 1001, AmountHarvest, 259},   {250, 259, 1000, 33, 0},  // neither: as it was
+    struct Closing {
+        JulianValue Today;
+        JulianValue LastDay;
+        float GddSum;
+        int Amount;
+        JulianValue SeasonEnd;
     };
-    for (const bool isHay : {false, true}) {
-        const SeasonLimits limits{isHay, 100, 120, 1000, 160, 0, 0};
-        for (const ClosingCase& c : cases) {
+    for (const Closing& c :
+         {Closing{249, 260, 900, AmountNotRequired, 0},  // the longest season, and over ten days ahead
+          {249, 260, 1001, AmountNotRequired, 0},
+          {250, 260, 900, AmountHarvest, 260},   // within ten days
+          {150, 259, 1001, AmountHarvest, 259},  // ended by heat, however far ahead
+          {250, 259, 1000, 33, 0}})              // neither: as it was
+        for (const bool isHay : {false, true}) {
             Outlook outlook;
             outlook.Row.NextIrrAmount = 33;
             DayEnd end;
             end.Day = c.LastDay;
             end.GddSum = c.GddSum;
-            CloseSeason(limits, end, c.Today, outlook);
+            CloseSeason({isHay, 100, 120, 1000, 160, 0, 0}, end, c.Today, outlook);
             EXPECT_EQ(outlook.Row.NextIrrAmount, c.Amount) << c.Today << " " << c.LastDay << " " << c.GddSum;
             EXPECT_EQ(outlook.SeasonEndDay, isHay ? 0 : c.SeasonEnd);
         }
-    }
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include "core/crop_table.h"
 #include "data/embedded.h"
 #include "engine/curves.h"
-#include "tests/engine/heap_count.h"
 #include "tests/engine/season_fixture.h"
 #include "tests/support/measured_weather.h"
 #include "weather/default_weather.h"
@@ -27,23 +26,9 @@ std::vector<float> Water(const Season& season, std::size_t days) {
     return water;
 }
 
-// -------------------------------------------------------------------------------------------------------------- events
-
 struct EventTest : SeasonTest {
     EventTest() { DefaultWeather = SteadyWeather(Frost()); }
 };
-
-TEST_F(EventTest, WaterComesOnItsDayAndIrrigationByTheEfficiencyInForce) {
-    const Season season = Run(BottomlessField()
-                                  .Efficiency(0.5F)
-                                  .Irrigation(Planting + 2, 20)
-                                  .Rain(Planting + 3, 7)
-                                  .Irrigation(Planting + 4, 20)
-                                  .With([](FieldFile& file) {
-                                      file.Lists.EfficiencyChanges = {{Planting + 4, 0.75F}};
-                                  }));
-    EXPECT_THAT(Water(season, 5), ElementsAre(0, 10, 17, 32, 32));
-}
 
 TEST_F(EventTest, WaterUpToTheStartIsInItsRowAlready) {
     const FieldFile file = BottomlessField()
@@ -72,15 +57,13 @@ TEST_F(EventTest, TheSecondOfTwoOnOneDayHoldsUpTheListForGood) {
 
 // A change of the efficiency on the start day is in force; one of the MAD is not, and stops those that follow it.
 TEST_F(EventTest, ChangesOnTheStartDayAreInForceForTheEfficiencyOnly) {
-    FieldFile file = BottomlessField();
+    FieldFile file = BottomlessField().Irrigation(Planting + 2, 20).Irrigation(Planting + 9, 20);
     file.Lists.MadChanges = {{Planting - 1, 30}, {Planting, 35}, {Planting + 9, 40}};
     file.Lists.EfficiencyChanges = {{Planting - 1, 0.25F}, {Planting, 0.5F}, {Planting + 9, 0.75F}};
     const Season season = Run(file);
     EXPECT_EQ(season.End.Mad, 30);
     EXPECT_EQ(season.End.Efficiency, 0.75);
-    file.Lists.MadChanges.pop_back();
-    file.Lists.EfficiencyChanges.pop_back();
-    EXPECT_EQ(Run(file).End.Efficiency, 0.5);
+    EXPECT_THAT(Water(season, 9), ElementsAre(0, 10, 10, 10, 10, 10, 10, 10, 25));
 }
 
 TEST_F(EventTest, OfOneDayCutFirstThenResetTheWaterThenAddTheRain) {
@@ -96,8 +79,6 @@ TEST_F(EventTest, OfOneDayCutFirstThenResetTheWaterThenAddTheRain) {
     EXPECT_LT(season.Days[2].RootDepthOrKc, 0.6F);
 }
 
-// ------------------------------------------------------------------------------------------------------------- weather
-
 TEST_F(SeasonTest, WeatherIsMeasuredDefaultOrAskedFor) {
     const auto source = [](std::string_view name) { return WeatherDay(AWeatherDay().From(name)); };
     AWeatherYear("06", 2003)
@@ -111,30 +92,24 @@ TEST_F(SeasonTest, WeatherIsMeasuredDefaultOrAskedFor) {
         .Store();
     AWeatherYear("06", 2008).Store();
     DefaultWeather = SteadyWeather(AWeatherDay().ReferenceET(2));
-    struct Case {
-        int DayOfYear;
-        SeasonWeather::Found Found;
-        float ReferenceEt;
-    };
     using enum SeasonWeather::Found;
     const SeasonWeather weather("06", Planting, JulianFromDayOfYear(195, 2003), DefaultWeather);
     WeatherDay day;
-    for (const Case& c : {Case{121, Usable, 6},
-                          {122, Usable, 6},
-                          {123, Missing, 2},
-                          {124, Missing, 2},
-                          {125, Usable, 2},
-                          {195, Usable, 6},
-                          {196, Usable, 2}}) {
-        EXPECT_EQ(weather.Get(JulianFromDayOfYear(c.DayOfYear, 2003), {c.DayOfYear, 2003}, day), c.Found);
-        EXPECT_EQ(day.ReferenceET, c.ReferenceEt) << c.DayOfYear;
+    for (const auto& [dayOfYear, found, referenceEt] : {std::tuple{121, Usable, 6.0F},
+                                                        {122, Usable, 6.0F},
+                                                        {123, Missing, 2.0F},
+                                                        {124, Missing, 2.0F},
+                                                        {125, Usable, 2.0F},
+                                                        {195, Usable, 6.0F},
+                                                        {196, Usable, 2.0F}}) {
+        EXPECT_EQ(weather.Get(JulianFromDayOfYear(dayOfYear, 2003), {dayOfYear, 2003}, day), found) << dayOfYear;
+        EXPECT_EQ(day.ReferenceET, referenceEt) << dayOfYear;
     }
     EXPECT_EQ(weather.Get(JulianFromDayOfYear(126, 2003), {126, 2003}, day), Damaged);
-
+    // Behind the end of the file, in a year without one, and in the sixth year, which is not reached.
     const SeasonWeather tooLong("06", Planting, JulianFromDate(6, 1, 2008), DefaultWeather);
-    EXPECT_EQ(tooLong.Get(JulianFromDayOfYear(201, 2003), {201, 2003}, day), Damaged);  // behind the end of the file
-    EXPECT_EQ(tooLong.Get(JulianFromDayOfYear(1, 2004), {1, 2004}, day), Damaged);      // no file
-    EXPECT_EQ(tooLong.Get(JulianFromDayOfYear(1, 2008), {1, 2008}, day), Damaged);      // a sixth year is not reached
+    for (const DayInYear place : {DayInYear{201, 2003}, {1, 2004}, {1, 2008}})
+        EXPECT_EQ(tooLong.Get(JulianFromDayOfYear(place.DayOfYear, place.Year), place, day), Damaged) << place.Year;
 }
 
 TEST_F(SeasonTest, WeatherGoesOnInTheNextYearsFile) {
@@ -148,8 +123,6 @@ TEST_F(SeasonTest, WeatherGoesOnInTheNextYearsFile) {
     EXPECT_THAT(sums, ElementsAre(2, 6, 12, 20));
 }
 
-// ------------------------------------------------------------------------------------------------ length of the season
-
 TEST_F(SeasonTest, EndsByItsDaysOrByHeatWhenTheCurveIsBackAtZero) {
     EXPECT_THAT(Run(AField()).Days, SizeIs(160));
     FieldFile late = AField();
@@ -158,29 +131,12 @@ TEST_F(SeasonTest, EndsByItsDaysOrByHeatWhenTheCurveIsBackAtZero) {
     EXPECT_THAT(Run(AField().Hay()).Days, SizeIs(62));  // 62 times 16 are past twice 490
 }
 
-TEST_F(SeasonTest, ForecastsTheFirstDayAtTheMadAndTheWaterThatFillsTheRootsAgain) {
-    const FieldFile file = AField().Mad(40);
-    const Season season = Run(file);
-    const ZoneGrid grid = CapacityGrid(file.Field, file.Soil.Bounds);
-    for (std::size_t i = 0; i < season.Days.size(); ++i) {
-        const DayRecord& day = season.Days[i];
-        const float capacity = SoilWaterBetween(0, day.RootDepthOrKc, grid, file.Soil.Capacity);
-        if (DepletionPercent(day.Available, capacity) < 40) continue;
-        EXPECT_EQ(season.Result.Row.NextIrrDay, Planting + 1 + static_cast<JulianValue>(i));
-        EXPECT_NEAR(season.Result.Row.NextIrrAmount, (capacity - day.Available) / 0.85, 0.5);
-        return;
-    }
-    FAIL() << "The crop never comes to its MAD.";
-}
-
 TEST_F(EventTest, AFieldThatDriedOutBeforeTheForecastIsPredictedForTheSeasonsLastDay) {
     const Season season = Run(BottomlessField());
     EXPECT_EQ(season.LastDay, Planting + 160);
     EXPECT_EQ(season.Result.Row.NextIrrDay, season.LastDay);
     EXPECT_EQ(season.Result.Row.NextIrrAmount, 353);  // 300 mm by an efficiency of 0.85
 }
-
-// ------------------------------------------------------------------------------------------------ leaching and history
 
 // Roots stay at 0.5 m in zones of 0.3 m that hold 100 mm/m. Below them zone 1 has room for 4 mm: of the first 6 mm two
 // go on to zone 2, 6.7 mm/m of it. The next 9 mm all go there, 30 mm/m. Of the last 5 mm it takes 0.9.
@@ -200,17 +156,6 @@ TEST_F(EventTest, EachGainOfADeeperZoneKeepsTheProfileBeforeItAndTheRestLeaches)
     EXPECT_THAT(season.Leaching, ElementsAre(EventRecord{Planting + 8, 4}));
     EXPECT_EQ(season.End.Available, 50);
 }
-
-// Zone 1 holds 4 mm more than it can below the roots, and no zone has room for them.
-TEST_F(EventTest, ALossOfADeeperZoneKeepsNoProfile) {
-    const Season season =
-        Run(AField().Roots(0.5F, 1).Capacity(100).Content({100, 140, 100, 100}).Days({{50, 0, 0.5F, 0, 4}}));
-    EXPECT_THAT(season.History, SizeIs(0));
-    EXPECT_EQ(season.Soil.Content, (Zones{100, 100, 100, 100}));
-    EXPECT_THAT(season.Leaching, ElementsAre(EventRecord{Planting + 1, 4}));
-}
-
-// ------------------------------------------------------------------------------------------------------- water account
 
 /// Plants the field in soil that is half full and reaches down to its deepest roots, with a season of rain and
 /// irrigation; hay is cut.
@@ -296,21 +241,6 @@ TEST_F(SeasonTest, TheWaterAccountOfEveryDayOfEveryCropCloses) {
             }
         }
     }
-}
-
-TEST_F(SeasonTest, TakesNoMemoryFromDayToDay) {
-    const auto takenBy = [this](std::int16_t days) {
-        FieldFile field = Planted(AField(), Planting, false);
-        field.Field.SeasonDays = days;
-        field.Field.GddHarvest = 4000;
-        const std::size_t before = HeapCount();
-        const Season season = Run(field);
-        const std::size_t taken = HeapCount() - before;
-        EXPECT_THAT(season.Days, SizeIs(days));
-        EXPECT_FALSE(season.History.empty());
-        return taken;
-    };
-    EXPECT_EQ(takenBy(100), takenBy(200));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "engine/soil_water.h"
 
-#include <array>
 #include <initializer_list>
 #include <vector>
 
@@ -11,8 +10,6 @@ namespace veraqua {
 namespace {
 
 using testing::HasSubstr;
-
-// -------------------------------------------------------------------------------------------- water between two depths
 
 struct DepthCase {
     float From;
@@ -39,12 +36,9 @@ TEST(SoilWaterInZones, IsTheSumOfTheirShares) {
                  {0, 1, 145},             // 25 + 30 + 40 + 50
                  {0.5F, 1.25F, 140},      // below the last zone its value holds on: 40 + .5 * 200
                  {2, 3, 200},
-                 {0.7F, 0.7F, 0}},
+                 {0.1875F, 0.0625F, -12.5},  // negative upwards within a zone, but not over a boundary
+                 {0.375F, 0.125F, 0.125 * 120 + 0.125 * 100}},
                 {100, 120, 160, 200});
-}
-
-TEST(SoilWaterInZones, IsNegativeUpwardsWithinAZoneButNotOverABoundary) {
-    ExpectWater({{0.1875F, 0.0625F, -12.5}, {0.375F, 0.125F, 0.125 * 120 + 0.125 * 100}}, {100, 120, 160, 200});
 }
 
 TEST(SoilWaterInZones, TakesTheZoneByTheStoredSingles) {
@@ -72,23 +66,16 @@ TEST(SoilWaterInLayers, IsTheSumOfTheirShares) {
         {100, 120, 160}, {0.25F, 0.5F, 0.25F});
 }
 
-TEST(SoilWaterInLayers, FailsWithMoreLayersThanHaveAThickness) {
-    const LayerBounds six{0.25F, 0.25F, 0.25F, 0.25F, 0.25F, 0.25F};
-    ExpectWater({{0, 1.5F, 165}}, {100, 110, 120, 110, 120, 100}, six);
-    EXPECT_FAILURE(ExpectWater({{0, 1.5F, 0}}, {1, 1, 1, 1, 1, 1, 1}, six), HasSubstr("7 layers"));
-}
-
-struct SoilExample {
-    float RootDepth;
-    int Mad;
-    std::int16_t WaterHeld;  ///< mm/m
-    double Total;            ///< available water of the root zone, mm
-    double Readily;          ///< up to the MAD, mm
-};
-
 // Allen, Pereira, Raes and Smith 1998, FAO Irrigation and Drainage Paper 56, Example 36: onion, tomato and maize in
 // loamy sand, silt and silty clay, in whole mm.
 TEST(SoilWater, HoldsThePublishedAmountsAndTheMadIsReachedWhenTheReadilyAvailableIsGone) {
+    struct SoilExample {
+        float RootDepth;
+        int Mad;
+        std::int16_t WaterHeld;  ///< mm/m
+        double Total;            ///< available water of the root zone, mm
+        double Readily;          ///< up to the MAD, mm
+    };
     const std::vector<SoilExample> examples{
         {0.4F, 30, 90, 36, 11},  {0.4F, 30, 170, 68, 20},   {0.4F, 30, 120, 48, 14},
         {0.8F, 40, 90, 72, 29},  {0.8F, 40, 170, 136, 54},  {0.8F, 40, 120, 96, 38},
@@ -106,12 +93,7 @@ TEST(SoilWater, HoldsThePublishedAmountsAndTheMadIsReachedWhenTheReadilyAvailabl
     }
 }
 
-// --------------------------------------------------------------------------------------------- dryness and evaporation
-
-TEST(DrynessCoefficient, RisesFromZeroInDrySoilToOneAtCapacity) {
-    EXPECT_EQ(DrynessCoefficient(0, 84), 0);
-    EXPECT_NEAR(DrynessCoefficient(42, 84), 0.851944, 1e-6);  // ln 51 / ln 101
-    EXPECT_EQ(DrynessCoefficient(84, 84), 1);
+TEST(DrynessCoefficient, FailsWhereTheRootZoneHoldsNoWater) {
     EXPECT_EQ(DrynessCoefficient(100, 84), 1);
     for (const float water : {0.0F, 20.0F}) EXPECT_FAILURE(DrynessCoefficient(water, 0), HasSubstr("capacity"));
     EXPECT_FAILURE(DrynessCoefficient(-1, 84), HasSubstr("Kd"));  // the logarithm of a negative number
@@ -125,19 +107,14 @@ TEST(DepletionPercent, IsAWholeNumberWithHalvesToEven) {
     EXPECT_FAILURE(DepletionPercent(0, 0), HasSubstr("depletion"));
 }
 
-// Ke, 0.9 - Kc, for a Kc of 0.5, on the days after a wetting.
-TEST(WetSoilEvaporation, LastsThreeDaysUnlessTheCanopyOrTheCropIsGrown) {
-    const std::vector<double> byDay{0, 0.32, 0.2, 0.12, 0, 0};
-    for (std::size_t day = 0; day < byDay.size(); ++day)
-        EXPECT_NEAR(WetSoilEvaporation(0.5F, 489.9F, 490, static_cast<int>(day)), byDay[day], 1e-7);
+TEST(WetSoilEvaporation, EndsWithAGrownCanopyOrCrop) {
+    EXPECT_NEAR(WetSoilEvaporation(0.5F, 489.9F, 490, 1), 0.32, 1e-7);
     EXPECT_EQ(WetSoilEvaporation(0.5F, 490, 490, 1), 0);
     EXPECT_EQ(WetSoilEvaporation(0.91F, 300, 490, 1), 0);
 }
 
-// ----------------------------------------------------------------------------------------------------------- day steps
-
-/// A field taken through frosty days, which add no heat. Its Kc is 0.8 at 500 degree days, and 84 mm fill its 0.75 m of
-/// roots, which are grown.
+/// A field taken through a frosty day, which adds no heat. Its Kc is 0.8 at 500 degree days, and 84 mm fill its 0.75 m
+/// of roots, which are grown.
 struct SteppedField {
     SteppedField() {
         File = AField().Roots(0.75F, 0.75F).Zones(4, 0.25F).Capacity(112).Content(112).Build();
@@ -157,71 +134,52 @@ struct SteppedField {
                           : DayStepCrop(File.Field, 1, day, Zone, File.Soil);
     }
 
-    /// A day that begins with so much water.
-    DayStep StepFrom(float available, float referenceEt, float rain = 0) {
-        Zone.Available = available;
-        return Step(referenceEt, rain);
-    }
-
-    float AfterDay(float referenceEt, float rain = 0) {
-        Step(referenceEt, rain);
-        return Zone.Available;
-    }
-
     FieldFile File;
     RootZone Zone;
 };
 
-TEST(Drainage, HalfOfTheExcessLeavesOnTheDayAfterAWettingAndTheRestOnTheNext) {
-    SteppedField field;
-    field.Zone.Available = 80;
-    EXPECT_EQ(field.AfterDay(0, 20), 100);  // on the day itself nothing drains
-    EXPECT_EQ(field.AfterDay(0), 92);
-    EXPECT_EQ(field.AfterDay(0), 84);
-}
+/// A day from water and days since the last wetting on, and what it leads to.
+struct SteppedDay {
+    std::int16_t DaysSinceWet;
+    float Available, ReferenceEt, Rain, Irrigation;
+    std::int16_t NewDaysSinceWet;
+    double NewAvailable, Use = 0, Evaporation = 0, Leaching = 0, CutOff = 0;
+};
 
-TEST(Drainage, OfASmallRainOnFullSoilLeavesAtOnceAndLeachesWholeFromGrownRoots) {
-    SteppedField field;
-    field.File.Soil.Content.fill(0);
-    EXPECT_EQ(field.Step(0, 10).Leaching, 10);
-    EXPECT_EQ(field.Zone.Available, 84);
-    EXPECT_EQ(field.File.Soil.Content, Zones{});
-}
-
-TEST(WettingCounter, StartsAnewAtFifteenMillimetresOfRainAndIrrigationTogether) {
-    const std::vector<std::array<float, 3>> cases{{10, 6, 0}, {10, 4.9F, 5}, {15, 0, 0}, {0, 15, 0}, {14.99F, 0, 5}};
-    for (const auto& [rain, irrigation, days] : cases) {
+TEST(CropDay, LosesWaterToTheCropTheWetSoilAndDrainage) {
+    for (const SteppedDay& day : {SteppedDay{4, 80, 0, 20, 0, 0, 100},  // on the day of a wetting nothing drains
+                                  {0, 100, 0, 0, 0, 1, 92, 0, 0, 8},    // half of the excess on the day after it
+                                  {1, 92, 0, 0, 0, 2, 84, 0, 0, 8},     // and the rest
+                                  {4, 84, 0, 10, 0, 5, 84, 0, 0, 10},   // a small rain on full soil leaves at once
+                                  // 15 mm of rain and irrigation together are a wetting.
+                                  {4, 40, 0, 10, 4.75F, 5, 54.75},
+                                  {4, 40, 0, 10, 6, 0, 56},
+                                  {4, 40, 0, 0, 15, 0, 55},
+                                  // Use goes with the dryness of the day before: ln 51 / ln 101 = .851944.
+                                  {4, 42, 5, 0, 0, 5, 42 - 3.407776, 0.8 * 0.851944 * 5},
+                                  {4, 0, 5, 12, 0, 5, 12},            // a rain doesn't help on its day
+                                  {4, 99, 5, 0, 0, 5, 84, 4, 0, 11},  // overfull soil gives no more than the demand
+                                  // Ke is (0.9 - 0.8) times 0.8, 0.5 and 0.3 on the days after a wetting.
+                                  {4, 84, 10, 15, 0, 0, 91, 8},
+                                  {0, 84, 10, 0, 0, 1, 75.2, 8, 0.8},
+                                  {1, 84, 10, 0, 0, 2, 75.5, 8, 0.5},
+                                  {2, 84, 10, 0, 0, 3, 75.7, 8, 0.3},
+                                  {3, 84, 10, 0, 0, 4, 76, 8},
+                                  // Kd = ln(100 / 84 + 1) / ln 101 = .169902; 1 mm is there, 1.359217 are asked for.
+                                  {4, 1, 10, 0, 0, 5, 0, 1.359217, 0, 0, 0.359217}}) {
+        SCOPED_TRACE(testing::Message() << day.Available << " mm after " << day.DaysSinceWet << " days");
         SteppedField field;
-        field.Step(0, rain, irrigation);
-        EXPECT_EQ(field.Zone.DaysSinceWet, days) << rain << " + " << irrigation;
+        field.Zone.Available = day.Available;
+        field.Zone.DaysSinceWet = day.DaysSinceWet;
+        const DayStep step = field.Step(day.ReferenceEt, day.Rain, day.Irrigation);
+        EXPECT_EQ(field.Zone.DaysSinceWet, day.NewDaysSinceWet);
+        EXPECT_NEAR(field.Zone.Available, day.NewAvailable, 1e-5);
+        EXPECT_NEAR(step.Use, day.Use, 1e-5);
+        EXPECT_NEAR(step.Evaporation, day.Evaporation, 1e-5);
+        EXPECT_NEAR(step.Leaching, day.Leaching, 1e-5);
+        EXPECT_NEAR(step.CutOff, day.CutOff, 1e-5);
+        EXPECT_EQ(field.File.Soil.Content[2], 112);  // nothing lies below grown roots
     }
-}
-
-TEST(CropUse, IsThatOfTheDrynessOfTheDayBefore) {
-    SteppedField field;
-    EXPECT_NEAR(field.StepFrom(42, 5).Use, 0.8 * 0.851944 * 5, 1e-5);
-    EXPECT_NEAR(field.Zone.Available, 42 - 3.407777, 1e-5);
-    EXPECT_EQ(field.StepFrom(0, 5, 12).Use, 0);  // a rain doesn't help on its day
-    EXPECT_EQ(field.Zone.Available, 12);
-    EXPECT_NEAR(field.StepFrom(99, 5).Use, 4, 1e-6);  // overfull soil gives no more than the demand
-}
-
-// Ke is (0.9 - 0.8) times 0.8, 0.5 and 0.3; Kd is 1 as long as the soil is full.
-TEST(CropUse, GoesWithTheEvaporationOfWetSoil) {
-    SteppedField field;
-    EXPECT_EQ(field.StepFrom(84, 10, 15).Evaporation, 0);
-    for (const double evaporation : {0.8, 0.5, 0.3, 0.0}) {
-        const DayStep step = field.StepFrom(84, 10);
-        EXPECT_NEAR(step.Evaporation, evaporation, 1e-6) << "day " << field.Zone.DaysSinceWet;
-        EXPECT_NEAR(field.Zone.Available, 84 - 8 - evaporation, 1e-5);
-    }
-}
-
-// Kd = ln(100 / 84 + 1) / ln 101 = .169902; 1 mm is there, 1.359217 are asked for.
-TEST(CropUse, BeyondTheWaterThereIsCutOffAndNotCarriedOn) {
-    SteppedField field;
-    EXPECT_NEAR(field.StepFrom(1, 10).CutOff, 0.359217, 1e-5);
-    EXPECT_EQ(field.Zone.Available, 0);
 }
 
 /// Roots that grow from 0.25 to 1 m, and come to 0.625 m on the first day, when Kc is half of that at harvest. The soil
@@ -234,19 +192,17 @@ SteppedField GrowingField(float available, float rootDepth) {
     return field;
 }
 
-TEST(RootGrowth, PicksUpTheWaterOfTheSoilBelow) {
-    SteppedField field = GrowingField(75, 0.375F);
-    EXPECT_NEAR(field.AfterDay(0), 75 + 0.125 * 120 + 0.125 * 160, 1e-4);
-    EXPECT_FLOAT_EQ(field.Zone.RootDepth, 0.625F);
-}
-
-TEST(RootGrowth, BackwardsGivesWaterUpWithinAZoneAndGainsItOverABoundary) {
-    EXPECT_NEAR(GrowingField(75, 0.6875F).Step(0).RootGain, -0.0625 * 160, 1e-4);
-    EXPECT_NEAR(GrowingField(75, 0.875F).Step(0).RootGain, 0.125 * 200 + 0.125 * 160, 1e-4);
-}
-
-// 75 mm fill the 0.375 m of yesterday; today's 0.625 m hold 125, of which the growth brings 35.
-TEST(RootGrowth, CountsForDrainageOnTheSameDayAndForDrynessOnTheNext) {
+TEST(RootGrowth, TakesInTheWaterOfTheSoilBelow) {
+    // Roots that draw back give water up within a zone and gain it over a boundary.
+    for (const auto& [rootsBefore, gain] : {std::pair{0.375F, 0.125 * 120 + 0.125 * 160},
+                                            {0.6875F, -0.0625 * 160},
+                                            {0.875F, 0.125 * 200 + 0.125 * 160}}) {
+        SteppedField field = GrowingField(75, rootsBefore);
+        EXPECT_NEAR(field.Step(0).RootGain, gain, 1e-4);
+        EXPECT_FLOAT_EQ(field.Zone.RootDepth, 0.625F);
+    }
+    // It counts for drainage on the same day and for dryness on the next: 75 mm fill the 0.375 m of yesterday; today's
+    // 0.625 m hold 125, of which the growth brings 35.
     const DayStep step = GrowingField(75, 0.375F).Step(2, 14);
     EXPECT_EQ(step.Kd, 1);
     EXPECT_EQ(step.Drainage, 0);
@@ -274,10 +230,11 @@ TEST(Hay, LosesWaterByTheSameRulesAndLeachesAllThatDrains) {
     field.File.Hay.RootMax = 1.125F;
     field.File.Hay.Curve = {0.023F, 0.857F, 0.00193F, 0.843F, 0.001F, 0, 0.8F, 0.6F, 0.6F, 0.6F, 0.6F, 0.6F, 0.6F};
     field.Zone = {126, 300, 1.125F, 4};
-    EXPECT_EQ(field.AfterDay(0, 24), 150);
+    EXPECT_EQ(field.Step(0, 24).Leaching, 0);
+    EXPECT_EQ(field.Zone.Available, 150);
     EXPECT_EQ(field.Step(0).Leaching, 12);
     EXPECT_EQ(field.Step(0).Leaching, 12);
-    EXPECT_EQ(field.File.Soil.Content, AField().Hay().Zones(5, 0.25F).Content(50).Build().Soil.Content);
+    EXPECT_EQ(field.File.Soil.Content[4], 50);
     const DayStep step = field.Step(5);  // the third day after the wetting
     EXPECT_NEAR(step.Use, 0.6 * 5, 1e-5);
     EXPECT_NEAR(step.Evaporation, 0.3 * 0.3 * 5, 1e-5);
