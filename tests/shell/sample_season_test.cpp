@@ -163,13 +163,6 @@ TEST_F(SampleTest, FieldsAreStoredAsTheEntryFormsStoreThem) {
     EXPECT_GT(wheat.Days.size(), 150U);
 }
 
-TEST_F(SampleTest, TextOfTheNetworkThatWaitsToBeImportedStays) {
-    Directory.Put("kesta.26", "of another station");
-    MakeSample(JulianFromDate(7, 15, 2026));
-    EXPECT_EQ(Directory.Raw("kesta.26"), "of another station");
-    EXPECT_FALSE(Directory.Has("kesta.25"));
-}
-
 }  // namespace
 
 }  // namespace veraqua

@@ -1,6 +1,5 @@
 #include "weather/import.h"
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -8,6 +7,7 @@
 #include "tests/support/data_directory.h"
 #include "tests/support/failure.h"
 #include "tests/support/network_line.h"
+#include "weather/default_weather.h"
 #include "weather/reference_et.h"
 #include "weather/weather_file.h"
 
@@ -15,6 +15,8 @@ namespace veraqua {
 namespace {
 
 constexpr ImportWording Plainly{"wrong year", "wrong station", " is missing", "No Text"};
+
+const ScriptAsk::Message NothingSaved{"No weather data was saved, try loading default data", "DOWNLOAD FAILED"};
 
 constexpr JulianValue DayOf2003(int dayOfYear) { return JulianFromDayOfYear(dayOfYear, 2003); }
 
@@ -56,57 +58,46 @@ struct ImportTest : DirectoryTest {
     }
 };
 
-struct Placing {
-    const char* Name;
-    std::string Text;
-    const char* Days;  ///< afterwards, from day 96 on
-    int Stored = 99;   ///< last day before
-    int From = 100;
-    int To = 104;
-};
-
-std::ostream& operator<<(std::ostream& out, const Placing& placing) { return out << placing.Name; }
-
-struct PlacingOf : ImportTest, testing::WithParamInterface<Placing> {};
-
-INSTANTIATE_TEST_SUITE_P(
-    Of, PlacingOf,
-    testing::Values(
-        Placing{"ExactDays", NetworkDays(98, 110), "oooommmmm..."},
-        Placing{"ABadDayThatIsWanted", NetworkDays(99, 101) + ANetworkLine(102).Bad() + NetworkDays(103, 110),
-                "oooomm......"},
-        Placing{"ABadFirstDay", ANetworkLine(100).Bad() + NetworkDays(101, 110), "oooo........"},
-        Placing{"ABadDayBeforeTheWantedOnes", ANetworkLine(99).Bad() + NetworkDays(100, 110), "oooommmmm..."},
-        Placing{"AGapBeforeAGoodDay", ANetworkLine(100) + NetworkDays(102, 110), "oooomdmmm..."},
-        Placing{"AGapBeforeABadDay", ANetworkLine(100) + ANetworkLine(103).Bad() + NetworkDays(104, 110),
-                "oooomdd9m..."},
-        Placing{"AGapOverTheEndOfTheRange", NetworkDays(100, 102) + NetworkDays(106, 110), "oooommmdddm."},
-        Placing{"ALineThatGoesBack", NetworkDays(100, 103) + ANetworkLine(100), "oooomdddd..."},
-        Placing{"ATextThatBeginsLate", NetworkDays(103, 110), "oooodddmm..."},
-        Placing{"ATextThatEnds", NetworkDays(95, 101), "oooommd....."},
-        Placing{"ATextThatEndsBeforeTheRange", NetworkDays(90, 97), "ooood......."},
-        Placing{"AnEndBeforeTheRange", NetworkDays(90, 95) + ANetworkLine(96).Column(2, "?") + NetworkDays(98, 110),
-                "ooood......."},
-        Placing{"ATextThatEndsBadly", NetworkDays(99, 101) + ANetworkLine(102).Bad(), "oooomm......"},
-        Placing{"AnUnreadableDayAsTheEnd", NetworkDays(99, 101) + ANetworkLine(102).Column(2, "?") + ANetworkLine(103),
-                "oooommd....."},
-        Placing{"ADayBeyondTheYearAsTheEnd", NetworkDays(99, 101) + ANetworkLine(366), "oooommd....."},
-        Placing{"OneDay", NetworkDays(1, 110), "ooooooom....", 102, 103, 103},
-        Placing{"DaysInsideTheFile", NetworkDays(1, 110), "oooommmmmooo", 150},
-        Placing{"AFileThatEndsBeforeTheRange", NetworkDays(1, 110), "oddddmmmm...", 96, 101}),
-    [](const auto& row) { return row.param.Name; });
-
-TEST_P(PlacingOf, FollowsTheTextAndFillsItsGaps) {
-    const Placing& p = GetParam();
-    for (const bool oneYear : {false, true}) {
-        StoreOld(p.Stored);
-        Directory.Put("kesta.03", p.Text);
-        EXPECT_TRUE(Import(DayOf2003(p.From), DayOf2003(p.To), oneYear).Imported);
-        EXPECT_EQ(Days(2003, 96, 107), p.Days);
-        EXPECT_EQ(Days(2003, 1, 95), std::string(95, 'o'));
-        EXPECT_TRUE(User.Told.empty());
-        EXPECT_FALSE(State.DownloadFailed);
-    }
+TEST_F(ImportTest, FollowsTheTextAndFillsItsGaps) {
+    struct Placing {
+        std::string Text;
+        const char* Days;  ///< afterwards, from day 96 on
+        int Stored = 99;   ///< last day before
+        int From = 100;
+        int To = 104;
+    };
+    for (const Placing& p : std::vector<Placing>{
+             {NetworkDays(98, 110), "oooommmmm..."},
+             // A bad day ends the import; before the wanted days it doesn't count.
+             {NetworkDays(99, 101) + ANetworkLine(102).Bad() + NetworkDays(103, 110), "oooomm......"},
+             {ANetworkLine(100).Bad() + NetworkDays(101, 110), "oooo........"},
+             {ANetworkLine(99).Bad() + NetworkDays(100, 110), "oooommmmm..."},
+             // A gap is filled up to the next line, though it be bad or lie over the end of the range.
+             {ANetworkLine(100) + NetworkDays(102, 110), "oooomdmmm..."},
+             {ANetworkLine(100) + ANetworkLine(103).Bad() + NetworkDays(104, 110), "oooomdd9m..."},
+             {NetworkDays(100, 102) + NetworkDays(106, 110), "oooommmdddm."},
+             {NetworkDays(100, 103) + ANetworkLine(100), "oooomdddd..."},  // a line that goes back
+             {NetworkDays(103, 110), "oooodddmm..."},
+             // A text that ends, before the range too, or at a day that can't be.
+             {NetworkDays(95, 101), "oooommd....."},
+             {NetworkDays(90, 97), "ooood......."},
+             {NetworkDays(90, 95) + ANetworkLine(96).Column(2, "?") + NetworkDays(98, 110), "ooood......."},
+             {NetworkDays(99, 101) + ANetworkLine(102).Bad(), "oooomm......"},
+             {NetworkDays(99, 101) + ANetworkLine(102).Column(2, "?") + ANetworkLine(103), "oooommd....."},
+             {NetworkDays(99, 101) + ANetworkLine(366), "oooommd....."},
+             {NetworkDays(1, 110), "ooooooom....", 102, 103, 103},
+             {NetworkDays(1, 110), "oooommmmmooo", 150},
+             {NetworkDays(1, 110), "oddddmmmm...", 96, 101}})
+        for (const bool oneYear : {false, true}) {
+            SCOPED_TRACE(p.Text);
+            StoreOld(p.Stored);
+            Directory.Put("kesta.03", p.Text);
+            EXPECT_TRUE(Import(DayOf2003(p.From), DayOf2003(p.To), oneYear).Imported);
+            EXPECT_EQ(Days(2003, 96, 107), p.Days);
+            EXPECT_EQ(Days(2003, 1, 95), std::string(95, 'o'));
+            EXPECT_TRUE(User.Told.empty());
+            EXPECT_FALSE(State.DownloadFailed);
+        }
 }
 
 TEST_F(ImportTest, MakesMetricDaysOfTheNetworksUnits) {
@@ -117,12 +108,7 @@ TEST_F(ImportTest, MakesMetricDaysOfTheNetworksUnits) {
     WeatherDay expected = AWeatherDay().DayOfYear(1).Wind(160.704F, 6).Radiation(597.25F);
     expected.ReferenceET = ReferenceEvapotranspiration(expected);
     EXPECT_EQ(file.Day(1), expected);
-    const WeatherDay synthetic = file.Day(2);
-    EXPECT_EQ(synthetic.TempMax, 1);
-    EXPECT_EQ(synthetic.TempMin, 2);
-    EXPECT_EQ(synthetic.WindRun, 5);
-    EXPECT_EQ(synthetic.ReferenceET, 8);
-    EXPECT_EQ(synthetic.Source.Text(), "default");
+    EXPECT_EQ(file.Day(2), DefaultDay(State.WeatherCoeff, 2));
     EXPECT_EQ(file.Day(3).TempMin, 12);  // beside the mark stands what was measured
     EXPECT_EQ(file.Day(3).Source.Text(), "kesta");
     EXPECT_EQ(outcome.LastDay, file.Day(3));
@@ -144,10 +130,7 @@ TEST_F(ImportTest, GoesOnInTheTextOfTheNextYear) {
     EXPECT_TRUE(Import(DayOf2003(364), DayOf2003(365 + 3)).Imported);
     EXPECT_EQ(Days(2003, 363, 366), "omm.");
     EXPECT_EQ(Days(2004, 1, 4), "mdm.");
-}
-
-TEST_F(ImportTest, CrossesALeapYearsEndAfterDay366) {
-    Directory.Put("kesta.04", ANetworkLine(365).Year("04") + ANetworkLine(366));
+    Directory.Put("kesta.04", ANetworkLine(365).Year("04") + ANetworkLine(366));  // a leap year ends after day 366
     Directory.Put("kesta.05", NetworkDays(1, 9));
     EXPECT_TRUE(Import(JulianFromDate(12, 30, 2004), JulianFromDate(1, 1, 2005)).Imported);
     EXPECT_EQ(Days(2004, 364, 366), "dmm");
@@ -157,63 +140,47 @@ TEST_F(ImportTest, CrossesALeapYearsEndAfterDay366) {
 TEST_F(ImportTest, KeepsTheOldYearWhereTheNextHasNoUsableText) {
     const ScriptAsk::Message missing{
         "Your KESTA data file for 04 is missing\nTry again or download Default Weather Data.", "No Text"};
-    const ScriptAsk::Message empty{"No weather data was saved, try loading default data", "DOWNLOAD FAILED"};
-    for (const auto& message : {missing, empty}) {
+    for (const auto& message : {missing, NothingSaved}) {
         Directory.Put("kesta.03", NetworkDays(1, 365));
-        if (message == empty) Directory.Put("kesta.04", "\r\n");
+        if (message == NothingSaved) Directory.Put("kesta.04", "\r\n");
         EXPECT_FALSE(Import(DayOf2003(364), DayOf2003(365 + 3)).Imported);
         EXPECT_EQ(User.Told.back(), message);
         EXPECT_TRUE(State.DownloadFailed);
         EXPECT_EQ(Days(2003, 364, 365), "mm");
         EXPECT_EQ(WeatherFile("06", 2004).Days(), 0);
     }
-    EXPECT_EQ(User.Told.size(), 2U);
 }
 
 TEST_F(ImportTest, HoldsTheLinesUpToTheFirstWantedDayAgainstYearAndStation) {
-    struct Row {
-        std::string First;
-        std::string_view Refusal;
-    };
-    for (const Row& row :
-         {Row{ANetworkLine(9).Year("03"), ""}, Row{ANetworkLine(9).Year(" 2003 "), ""},
-          Row{ANetworkLine(9).Station("06.0"), ""}, Row{ANetworkLine(9).Year("3"), "wrong year"},
-          Row{ANetworkLine(9).Year("2002"), "wrong year"}, Row{ANetworkLine(9).Year("2002").Station("7"), "wrong year"},
-          Row{ANetworkLine(9).Station("60"), "wrong station"}, Row{ANetworkLine(9).Station(""), "wrong station"},
-          Row{"<!DOCTYPE html>\n<html>\n", "wrong year"}}) {
-        for (const int before : {9, 10}) {  // the day before the wanted one, and the wanted one itself
-            SCOPED_TRACE(row.First);
-            StoreOld(before - 1);
+    for (const auto& [first, refusal] :
+         std::vector<std::pair<std::string, std::string>>{{ANetworkLine(9).Year(" 03 "), ""},
+                                                          {ANetworkLine(9).Station("06.0"), ""},
+                                                          {ANetworkLine(9).Year("3"), "wrong year"},
+                                                          {ANetworkLine(9).Year("2002").Station("7"), "wrong year"},
+                                                          {ANetworkLine(9).Station("60"), "wrong station"},
+                                                          {ANetworkLine(9).Station(""), "wrong station"},
+                                                          {"<!DOCTYPE html>\n<html>\n", "wrong year"}})
+        for (const int from : {9, 10}) {  // the line is that of the wanted day, or of the day before it
+            SCOPED_TRACE(first);
+            StoreOld(from - 1);
             User.Told.clear();
             State.DownloadFailed = false;
-            Directory.Put("kesta.03", row.First + NetworkDays(10, 12));
-            const bool refused = !row.Refusal.empty();
-            EXPECT_EQ(Import(DayOf2003(before), DayOf2003(12)).Imported, !refused);
+            Directory.Put("kesta.03", first + NetworkDays(10, 12));
+            const bool refused = !refusal.empty();
+            EXPECT_EQ(Import(DayOf2003(from), DayOf2003(12)).Imported, !refused);
             EXPECT_EQ(State.DownloadFailed, refused);
-            EXPECT_EQ(Days(2003, before, 12), std::string(static_cast<std::size_t>(13 - before), refused ? '.' : 'm'));
-            if (refused)
-                EXPECT_EQ(User.Told, (std::vector<ScriptAsk::Message>{{std::string(row.Refusal), "Download Error"}}));
-            else
-                EXPECT_TRUE(User.Told.empty());
+            EXPECT_EQ(Days(2003, from, 12), std::string(static_cast<std::size_t>(13 - from), refused ? '.' : 'm'));
+            EXPECT_EQ(User.Texts(), std::vector<std::string>(refused ? 1 : 0, refusal));
         }
-    }
 }
 
-TEST_F(ImportTest, WritesNothingWithoutAUsableLine) {
-    for (const std::string& text : {std::string(), std::string("\r\n"), std::string(ANetworkLine(0))}) {
-        StoreOld(99);
-        State.DownloadFailed = false;
+TEST_F(ImportTest, WritesNothingWithoutAUsableLineOrWhereADayCannotBeComputed) {
+    StoreOld(99);
+    for (const std::string& text : {std::string("\r\n"), std::string(ANetworkLine(0))}) {
         Directory.Put("kesta.03", text);
         EXPECT_FALSE(Import(DayOf2003(100), DayOf2003(104)).Imported);
-        EXPECT_TRUE(State.DownloadFailed);
-        EXPECT_EQ(Days(2003, 99, 104), "o.....");
+        EXPECT_EQ(User.Told.back(), NothingSaved);
     }
-    EXPECT_EQ(User.Told, (std::vector<ScriptAsk::Message>(
-                             3, {"No weather data was saved, try loading default data", "DOWNLOAD FAILED"})));
-}
-
-TEST_F(ImportTest, WritesNothingWhereADayCannotBeComputed) {
-    StoreOld(99);
     Directory.Put("kesta.03", NetworkDays(99, 101) + ANetworkLine(102).Column(11, std::string(38, '9')));
     EXPECT_FAILURE(Import(DayOf2003(100), DayOf2003(104)),
                    testing::HasSubstr("kesta.03: the line of day 102: Overflow"));

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <limits>
 #include <map>
 #include <numeric>
 #include <span>
@@ -15,7 +14,6 @@
 #include "core/failure.h"
 #include "tests/support/measured_weather.h"
 #include "weather/et_tables.h"
-#include "weather/table_interpolate.h"
 
 namespace veraqua {
 namespace {
@@ -39,32 +37,20 @@ TEST(SaturationVapourPressure, AgreesWithPublishedValuesWithinATenthOfAPercent) 
     EXPECT_NEAR(SaturationVapourPressure(21.5f), 25.64, 0.02564);
 }
 
-TEST(WeightingFactor, IsTheTablesValueAtAnAxisPoint) {
+TEST(WeightingFactor, IsTheTablesValueAndLiesOnTheLineBetweenAndBeyondAxisPoints) {
     EXPECT_EQ(WeightingFactorW(20), .69f);
-    EXPECT_EQ(WeightingFactorW(2), .43f);
-    EXPECT_EQ(WeightingFactorW(40), .85f);
-    EXPECT_EQ(WeightingFactorW(2, 4000), .54f);
     EXPECT_EQ(WeightingFactorW(40, 4000), .90f);
-    EXPECT_EQ(WeightingFactorW(20, 3000), .75f);
-}
-
-TEST(WeightingFactor, LiesOnTheLineBetweenAndBeyondAxisPoints) {
-    EXPECT_FLOAT_EQ(WeightingFactorW(25), .74f);        // half way from .73 to .75
     EXPECT_FLOAT_EQ(WeightingFactorW(25, 750), .755f);  // half way from .75 at 500 m to .76 at 1000 m
     EXPECT_FLOAT_EQ(WeightingFactorW(-8), .28f);        // .43 - 5 * .03
     EXPECT_FLOAT_EQ(WeightingFactorW(44), .87f);        // .85 + 2 * .01
-    EXPECT_FLOAT_EQ(WeightingFactorW(2, 5000), .56f);   // .54 + .02
 }
 
 TEST(AdjustmentFactor, IsTheTablesValueAtAnAxisPoint) {
     EXPECT_EQ(AdjustmentFactorC(3, 0, 30, 1), .86f);
-    EXPECT_EQ(AdjustmentFactorC(12, 9, 90, 4), 1.27f);
     EXPECT_EQ(AdjustmentFactorC(12, 9, 30, 1), .70f);
-    EXPECT_EQ(AdjustmentFactorC(12, 0, 90, 1), 1.10f);
     EXPECT_EQ(AdjustmentFactorC(3, 9, 60, 4), .76f);
+    EXPECT_EQ(AdjustmentFactorC(9, 9, 60, 3), .88f);  // looks too low, but is printed so
 }
-
-TEST(AdjustmentFactor, KeepsTheEntryThatLooksTooLow) { EXPECT_EQ(AdjustmentFactorC(9, 9, 60, 3), .88f); }
 
 // Each coordinate lies half an interval above the table, so that each step takes 1.5 * upper - .5 * lower.
 //                            Ud 6: Rs 9, 12          Ud 9: Rs 9, 12
@@ -95,32 +81,6 @@ TEST(PublishedTables, AddUpToTheSumsOfThePrintedTables) {
                                                        12.69, 15.21, 16.90, 13.41, 16.17, 17.91});
 }
 
-// A product of linear functions is met exactly, whatever the axes, inside the table and outside.
-TEST(TableInterpolation, MeetsAProductOfLinearFunctions) {
-    const auto product = [](float x, float y, float z, float w) { return (x + 1) * (y - 2) * (2 * z + 3) * (5 - w); };
-    const std::array xs{0.f, 1.f, 4.f};
-    const std::array ys{-3.f, 5.f};
-    const std::array zs{10.f, 20.f, 25.f, 26.f};
-    const std::array ws{1.f, 2.f, 8.f};
-    std::vector<float> table;
-    for (const float w : ws)
-        for (const float z : zs)
-            for (const float y : ys)
-                for (const float x : xs) table.push_back(product(x, y, z, w));
-    for (const auto& [x, y, z, w] : std::vector<TablePoint>{
-             {.5f, 1, 22, 1.5f}, {1, 5, 25, 2}, {-2, -7, 4, 0}, {9, 8, 30, 11}, {2.5f, -7, 25.5f, 11}})
-        EXPECT_DOUBLE_EQ(TableInterpolate({xs, ys, zs, ws}, table, {x, y, z, w}), product(x, y, z, w));
-}
-
-TEST(TableInterpolation, HeedsNoCoordinateAlongASinglePointOrBetweenEqualPoints) {
-    const std::array rising{0.f, 10.f};
-    const std::array single{5.f};
-    const std::array equal{7.f, 7.f};
-    const std::array table{1.f, 2.f, 30.f, 40.f};
-    EXPECT_EQ(TableInterpolate({rising, equal, single, single}, table, {5, 6, -80, 80}), 1.5);
-    EXPECT_EQ(TableInterpolate({rising, equal, single, single}, table, {5, 99, 5, 5}), 1.5);
-}
-
 // By hand, with seven digits:
 //   T = 25, H = 40, es = 33.8639 * (0.9917^8 - 0.000019 * 93 + 0.001316) = 33.8639 * 0.9350462 = 31.66431
 //   ea = 12.66572, f = 0.27 * 3 = 0.81, W = 0.74 (half way from 24 to 26 degrees), Rn = 342 / 59 = 5.796610
@@ -144,22 +104,9 @@ TEST(ReferenceEvapotranspiration, RoundsEachQuantityToSingleAsItIsStored) {
     EXPECT_EQ(ReferenceEvapotranspiration(ADay(36.9, 10.8, 77.5, 17.6, 352, 1.86, 100)), 0x1.02cc56p+2f);
 }
 
-// In still, saturated air only the radiation term is left: c * W * (0.61 * radiation - 24) / 59, with W = 0.55 at 10
-// degrees. Without sun c is 1.04 - (1.086667 - 1.04) = 0.9933333: humidity 100 lies 4/3 of the way from 60 to 90, so it
-// is 0.96 + 4/3 * 0.06 = 1.04 at Rs 3 and 0.98 + 4/3 * 0.08 = 1.086667 at Rs 6.
-TEST(ReferenceEvapotranspiration, GoesBelowZeroOnADarkStillDay) {
-    const auto stillAndSaturated = [](double radiation) { return ADay(12, 8, 100, 100, 0, 2, radiation); };
-    EXPECT_NEAR(ReferenceEvapotranspiration(stillAndSaturated(0)), -0.9933333 * 0.55 * 24 / 59, 1e-7);
-    EXPECT_LT(ReferenceEvapotranspiration(stillAndSaturated(39.3)), 0);  // 24 / 0.61 = 39.34 langleys
-    EXPECT_GT(ReferenceEvapotranspiration(stillAndSaturated(39.4)), 0);
-}
-
 TEST(ReferenceEvapotranspiration, FailsWhereANumberIsNotFinite) {
-    constexpr double infinite = std::numeric_limits<double>::infinity();
-    EXPECT_THROW(ReferenceEvapotranspiration(ADay(35, 15, 60, 20, 200, -1, 600)), RunTimeFailure);
     EXPECT_THROW(ReferenceEvapotranspiration(ADay(35, 15, 60, 20, 0, -1, 600)), RunTimeFailure);  // 0 / 0
     EXPECT_THROW(ReferenceEvapotranspiration(ADay(1e30, 15, 60, 20, 200, 2, 600)), RunTimeFailure);
-    EXPECT_THROW(ReferenceEvapotranspiration(ADay(35, 15, 60, 20, 200, 2, infinite)), RunTimeFailure);
     EXPECT_THROW(ReferenceEvapotranspiration(ADay(35, 15, 60, std::nan(""), 200, 2, 600)), RunTimeFailure);
 }
 
@@ -171,71 +118,50 @@ struct Station {
     std::size_t Days;  ///< lines less those with a missing reading, as the README of the data counts them
 };
 
-void PrintTo(const Station& station, std::ostream* out) { *out << "station " << station.Code; }
+/// Sums over days by the method (x) and as published (y).
+struct Sums {
+    double N = 0, X = 0, Y = 0, Xx = 0, Yy = 0, Xy = 0;
 
-class MeasuredYears : public testing::TestWithParam<Station> {
-  protected:
-    struct Pair {
-        double Method, Published;
-    };
-
-    /// Wind and radiation are converted as on import. The text has no wind by night: 1.58 is the mean wind by day over
-    /// that by night of 2015 at Fallon (day_night_wind_fallon_2015.csv).
-    static Pair Compare(const MeasuredDay& day) {
-        const WeatherDay weather = ADay(day.TempMax, day.TempMin, day.HumidityMax, day.HumidityMin,
-                                        day.WindSpeed * 86.4 * 0.93, 1.58, day.Radiation * 23.89);
-        return {ReferenceEvapotranspiration(weather), day.PublishedEt};
+    void Add(double x, double y) {
+        N += 1;
+        X += x;
+        Y += y;
+        Xx += x * x;
+        Yy += y * y;
+        Xy += x * y;
     }
-
-    void SetUp() override {
-        for (const std::string& year : GetParam().Years)
-            for (const MeasuredDay& day :
-                 WholeDays(VERAQUA_TEST_DATA "/weather/" + GetParam().Code + year + "rd.txt")) {
-                const Date date = DateFromJulian(JulianFromDayOfYear(day.DayOfYear, day.Year));
-                all_.push_back(Compare(day));
-                months_[{date.Year, date.Month}].push_back(all_.back());
-            }
-    }
-
-    std::vector<Pair> all_;
-    std::map<std::pair<int, int>, std::vector<Pair>> months_;  ///< by year and month
+    double Correlation() const { return (N * Xy - X * Y) / std::sqrt((N * Xx - X * X) * (N * Yy - Y * Y)); }
 };
 
-TEST_P(MeasuredYears, LieAboveTheGrassReferenceMonthByMonth) {
-    ASSERT_EQ(all_.size(), GetParam().Days);
-    for (const auto& [yearAndMonth, days] : months_) {
-        if (days.size() < 20) continue;
-        SCOPED_TRACE(testing::PrintToString(yearAndMonth));
-        double method = 0;
-        double published = 0;
-        for (const Pair& day : days) {
-            method += day.Method;
-            published += day.Published;
+TEST(MeasuredYears, LieAboveTheGrassReferenceMonthByMonthAndFollowItDayByDay) {
+    for (const Station& station :
+         {Station{"06", {"00", "01", "02", "03", "04", "05"}, 2192 - 34}, Station{"02", {"20", "21", "22"}, 1096 - 57},
+          Station{"04", {"20"}, 366 - 1}, Station{"08", {"15"}, 365 - 1}, Station{"15", {"22"}, 333 - 1}}) {
+        SCOPED_TRACE(station.Code);
+        Sums all;
+        std::map<std::pair<int, int>, Sums> months;
+        for (const std::string& year : station.Years)
+            for (const MeasuredDay& day : WholeDays(VERAQUA_TEST_DATA "/weather/" + station.Code + year + "rd.txt")) {
+                // Wind and radiation are converted as on import. The text has no wind by night: 1.58 is the mean wind
+                // by day over that by night of 2015 at Fallon (day_night_wind_fallon_2015.csv).
+                const float method =
+                    ReferenceEvapotranspiration(ADay(day.TempMax, day.TempMin, day.HumidityMax, day.HumidityMin,
+                                                     day.WindSpeed * 86.4 * 0.93, 1.58, day.Radiation * 23.89));
+                const Date date = DateFromJulian(JulianFromDayOfYear(day.DayOfYear, day.Year));
+                all.Add(method, day.PublishedEt);
+                months[{date.Year, date.Month}].Add(method, day.PublishedEt);
+            }
+        EXPECT_EQ(all.N, station.Days);
+        EXPECT_GT(all.Correlation(), 0.97);
+        for (const auto& [yearAndMonth, days] : months) {
+            if (days.N < 20) continue;
+            SCOPED_TRACE(testing::PrintToString(yearAndMonth));
+            const bool growingSeason = yearAndMonth.second >= 4 && yearAndMonth.second <= 9;
+            EXPECT_GE(days.X / days.Y, growingSeason ? 1.0 : 0.9);
+            EXPECT_LE(days.X / days.Y, growingSeason ? 1.4 : 1.75);
         }
-        const bool growingSeason = yearAndMonth.second >= 4 && yearAndMonth.second <= 9;
-        EXPECT_GE(method / published, growingSeason ? 1.0 : 0.9);
-        EXPECT_LE(method / published, growingSeason ? 1.4 : 1.75);
     }
 }
-
-TEST_P(MeasuredYears, FollowTheGrassReferenceDayByDay) {
-    double n = 0, x = 0, y = 0, xx = 0, yy = 0, xy = 0;
-    for (const Pair& day : all_) {
-        n += 1;
-        x += day.Method;
-        y += day.Published;
-        xx += day.Method * day.Method;
-        yy += day.Published * day.Published;
-        xy += day.Method * day.Published;
-    }
-    EXPECT_GT((n * xy - x * y) / std::sqrt((n * xx - x * x) * (n * yy - y * y)), 0.97);
-}
-
-INSTANTIATE_TEST_SUITE_P(Stations, MeasuredYears,
-                         testing::Values(Station{"06", {"00", "01", "02", "03", "04", "05"}, 2192 - 34},
-                                         Station{"02", {"20", "21", "22"}, 1096 - 57}, Station{"04", {"20"}, 366 - 1},
-                                         Station{"08", {"15"}, 365 - 1}, Station{"15", {"22"}, 333 - 1}),
-                         [](const auto& station) { return "Station" + station.param.Code; });
 
 }  // namespace
 }  // namespace veraqua
