@@ -7,7 +7,7 @@
 
 namespace veraqua {
 
-const Font TableFont{"Courier New", 9};
+inline const Font TableFont{"Courier New", 9};
 
 /// Adds `lines` to `document` in one font.
 void AddLines(PrintedDocument& document, const Font& face, const std::vector<std::string>& lines);

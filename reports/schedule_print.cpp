@@ -6,11 +6,9 @@
 
 #include <fmt/format.h>
 
-#include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
 #include "core/units.h"
-#include "engine/soil_water.h"
 #include "reports/field_days.h"
 #include "reports/prediction_text.h"
 #include "reports/printed_lines.h"
@@ -65,7 +63,7 @@ ScheduleEntry EntryOf(int row, const FieldFile& file) {
     const FieldDay day = StateOf(file, AsOf(file, StateDay(stat)).Row);
     ScheduleEntry entry;
     entry.Row = row;
-    entry.Depletion = ToInteger16(DepletionPercent(day.Available, day.Capacity), "the depletion");
+    entry.Depletion = ToInteger16(day.Depletion, "the depletion");
     entry.SortKey = SortKeyOf(stat);
     const JulianValue shown = std::min(stat.LastDay, State.TodayJulian);
     entry.Lines = {Columns("  " + stat.FieldId.Whole(), stat.CropName.Whole(),
@@ -78,9 +76,7 @@ ScheduleEntry EntryOf(int row, const FieldFile& file) {
 /// Fields of one day stay in the order of the directory.
 std::vector<ScheduleEntry> SortedEntries(Ask& ask) {
     std::vector<ScheduleEntry> entries;
-    for (const int row : RowsInUse())
-        if (const std::optional<FieldFile> file = StoredField(ask, row))
-            entries.push_back(ComputedFrom(FieldFileName(row), [&] { return EntryOf(row, *file); }));
+    ForEachStoredField(ask, [&](int row, const FieldFile& file) { entries.push_back(EntryOf(row, file)); });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const ScheduleEntry& a, const ScheduleEntry& b) { return a.SortKey < b.SortKey; });
     return entries;

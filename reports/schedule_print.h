@@ -8,8 +8,7 @@
 namespace veraqua {
 
 /// The schedule of all fields, from their files. `Stat` takes the depletion that each line shows, in memory only. A
-/// field whose file is missing is left out, after the user has been told. RunTimeFailure, naming the file, where one is
-/// damaged; `Stat` is then as before.
+/// field whose file is missing or damaged is left out, after the user has been told.
 PrintedDocument PrintedSchedule(Ask& ask);
 
 }  // namespace veraqua

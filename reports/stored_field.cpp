@@ -11,4 +11,14 @@ std::optional<FieldFile> StoredField(Ask& ask, int row) {
     return ParseFieldFile(*bytes, State.Stat[row].CropName.First() == HayMark, FieldFileName(row));
 }
 
+void ForEachStoredField(Ask& ask, const std::function<void(int, const FieldFile&)>& visit) {
+    for (const int row : RowsInUse()) {
+        try {
+            if (const auto file = StoredField(ask, row)) ComputedFrom(FieldFileName(row), [&] { visit(row, *file); });
+        } catch (const RunTimeFailure& failure) {
+            ask.Tell(failure.what(), ProgramTitle, Icon::Stop);
+        }
+    }
+}
+
 }  // namespace veraqua

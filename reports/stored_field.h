@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -23,5 +24,9 @@ auto ComputedFrom(const std::string& name, Compute compute) {
         throw RunTimeFailure(name + ": " + failure.what());
     }
 }
+
+/// Visits the fields of the directory in its order. One whose file is missing, damaged or can't be computed with is
+/// left out, after the user has been told.
+void ForEachStoredField(Ask& ask, const std::function<void(int row, const FieldFile& file)>& visit);
 
 }  // namespace veraqua

@@ -1,5 +1,6 @@
 #include "reports/prediction_text.h"
 
+#include <array>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -12,10 +13,8 @@ constexpr JulianValue Today = Day(10);
 constexpr JulianValue NoDay = BeforeAnyRealDay;
 
 std::string Said(const PredictionText& text) {
-    const std::string colour = text.Colour == PredictionColour::Red     ? ", red"
-                               : text.Colour == PredictionColour::Green ? ", green"
-                                                                        : "";
-    return text.Date + " / " + text.Amount + colour;
+    constexpr std::array colours{"", ", green", ", red"};
+    return text.Date + " / " + text.Amount + colours.at(static_cast<std::size_t>(text.Colour));
 }
 
 /// A row of the directory, and what the screens say of it.
