@@ -1,0 +1,32 @@
+#pragma once
+
+#include "screen/form.h"
+
+namespace veraqua {
+
+/// The main menu, first window of the program. Loading it finds and opens the data directory and starts the system up;
+/// closing it is the orderly way out.
+struct frmVeraqua : Form {
+    frmVeraqua() { Caption = "VERAQUA"; }
+
+    Label Label1{"Irrigation Scheduling System"};
+    Label Label2{"Irrigation Scheduling System"};  ///< behind the first, as its shadow
+    Image Image2;
+    Label Label4{"Field Options"};
+    Button cmdfields;
+    Label Label5{"Weather Data"};
+    Button cmdWeather;
+    Label Label6{"Configuration"};
+    Button cmdConfig;
+    Button cmdHelp{"HELP"};
+    Label Label8{"Exit"};
+    Button cmdExit;
+    StatusBar StatusBar1;
+};
+
+FormTable TableOf(frmVeraqua& form);
+
+/// Shows the version and the computer's date in the first two panels.
+void ShowProgramIn(StatusBar& bar);
+
+}  // namespace veraqua
