@@ -8,8 +8,8 @@ namespace {
 AField ShallowField() { return AField().Roots(0.3F, 0.3F); }
 
 struct AdjustmentsTest : FieldMenuTest {
-    void SelectNew(const AField& field) {
-        Plant(field, 1);
+    void SelectNew(AField field, int days = IntoTheForecast) {
+        Plant(field.Days(days), 1);
         Select(0);
     }
 
@@ -79,7 +79,7 @@ TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfTodayAndInTheRunFromThere) {
 }
 
 TEST_F(AdjustmentsTest, AFieldBehindYesterdayTakesItsDepletionFromItsLastDayOn) {
-    Plant(ShallowField(), 1, Today - 3);
+    Plant(ShallowField().Days(IntoTheForecast), 1, Today - 3);
     SelectField(User, 1);
     State.WeatherLastJulian = Today - 3;
     Menu.Click("mnuDepletion").Type("TxtNewDepl", "25").Click("cmdDeplOK");
@@ -89,8 +89,7 @@ TEST_F(AdjustmentsTest, AFieldBehindYesterdayTakesItsDepletionFromItsLastDayOn) 
 }
 
 TEST_F(AdjustmentsTest, WhatCannotBeSetLeavesTheFilesAlone) {
-    Plant(AField(), 1, Today - 1, Today - Planting);  // no row for today
-    Select(0);
+    SelectNew(AField(), ThroughYesterday);
     auto before = Files();
     Menu.Click("mnuDepletion").Type("TxtNewDepl", "30").Click("cmdDeplOK");
     EXPECT_EQ(User.Told.back().Title, "Veraqua Warning");

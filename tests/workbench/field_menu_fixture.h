@@ -17,6 +17,8 @@ namespace veraqua {
 struct FieldMenuTest : FormTest {
     static constexpr JulianValue Today = JulianFromDate(7, 15, 2003);
     static constexpr JulianValue Planting = JulianFromDate(5, 1, 2003);  ///< that of `AField`
+    static constexpr int ThroughYesterday = Today - Planting;            ///< day rows from planting on
+    static constexpr int IntoTheForecast = ThroughYesterday + 5;
 
     frmField& Form = The<frmField>();
     At Menu{(AddWorkbenchForms(), AddReportForms(), AddShellForms(), FormName::frmField)};
@@ -28,9 +30,9 @@ struct FieldMenuTest : FormTest {
         Show(FormName::frmField);
     }
 
-    /// A field of `days` day rows at `row` of the directory, computed through `lastDay`.
-    void Plant(AField field, int row, JulianValue lastDay = Today - 1, int days = 80) {
-        field.Days(days).StoreAt(row);
+    /// A field at `row` of the directory, computed through `lastDay`.
+    void Plant(const AField& field, int row, JulianValue lastDay = Today - 1) {
+        field.StoreAt(row);
         State.Stat[row].LastDay = lastDay;
         SaveFieldRow(User, row);
     }

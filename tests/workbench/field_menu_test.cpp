@@ -33,8 +33,8 @@ TEST_F(FieldMenuTest, EachItemOpensItsWindowOnTheFieldSelected) {
         {"m_rpt_display", FormName::frmHayFieldHistory, 1},
         {"mnuCuts", FormName::frmCuts, 1}};
     for (const auto& [item, opened, position] : ways) {
-        Plant(AField(), 1);
-        Plant(AField().Hay(), 2);
+        Plant(AField().Days(IntoTheForecast), 1);
+        Plant(AField().Hay().Days(IntoTheForecast), 2);
         Show(FormName::frmField);
         Select(position);
         Menu.Click(item);
@@ -48,8 +48,8 @@ TEST_F(FieldMenuTest, EachItemOpensItsWindowOnTheFieldSelected) {
 }
 
 TEST_F(FieldMenuTest, AFieldPickedIsShownAndRunOnlyIfItStandsBehindYesterday) {
-    Plant(AField().Id("west"), 1);
-    Plant(AField().Hay().Cutting(Planting + 40, 1), 2, Today - 2);
+    Plant(AField().Days(IntoTheForecast).Id("west"), 1);
+    Plant(AField().Hay().Days(IntoTheForecast).Cutting(Planting + 40, 1), 2, Today - 2);
     const auto before = Files();
     Select(0);
     EXPECT_EQ(Files(), before);  // the upper case of its ID is in memory only
@@ -64,8 +64,8 @@ TEST_F(FieldMenuTest, AFieldPickedIsShownAndRunOnlyIfItStandsBehindYesterday) {
 }
 
 TEST_F(FieldMenuTest, AFieldWithoutItsWeatherOrItsFileIsNotSelected) {
-    Plant(AField().Station("07"), 1);
-    Plant(AField(), 2);
+    Plant(AField().Days(IntoTheForecast).Station("07"), 1);
+    Plant(AField().Days(IntoTheForecast), 2);
     User.WeatherSource = [] { State.DownloadFailed = State.ReportCancelled = true; };
     Select(0);
     EXPECT_EQ(State.CurrentField, 0);
@@ -82,8 +82,8 @@ TEST_F(FieldMenuTest, AFieldWithoutItsWeatherOrItsFileIsNotSelected) {
 }
 
 TEST_F(FieldMenuTest, RowsWithAGapAreListedByTheirNumberAndANewFieldTakesTheGap) {
-    Plant(AField(), 1);
-    Plant(AField(), 3);
+    Plant(AField().Days(IntoTheForecast), 1);
+    Plant(AField().Days(IntoTheForecast), 3);
     Select(1);
     EXPECT_EQ(State.CurrentField, 3);
     Menu.Click("mnuNew").Click("mnu_MAD");  // a field that is being entered is none yet
@@ -115,7 +115,7 @@ TEST_F(FieldMenuTest, ANewFieldWantsACropAndASoilFormat) {
 }
 
 TEST_F(FieldMenuTest, APickForTheHarvestThatIsGivenUpHarvestsNothing) {
-    Plant(AField(), 1);
+    Plant(AField().Days(IntoTheForecast), 1);
     for (const char* way : {"cmd_Cancel", "Esc", "mnuNew", "mnuSelect"}) {
         Menu.Click("mnuSelect").Click("mnuDelete");
         EXPECT_EQ(User.LastSaid(), "Information Message: Please select a field to delete.");

@@ -14,8 +14,7 @@ struct HarvestTest : FieldMenuTest {
     /// Fields "1", "2" and so on in `rows`, each with a prediction and a depletion date of its own.
     void PlantRows(std::initializer_list<int> rows) {
         for (const int row : rows) {
-            State.Updates[row] = 0;
-            Plant(AField().Id(std::to_string(row)), row);
+            Plant(AField().Id(std::to_string(row)).Days(ThroughYesterday), row);
             State.Stat[row].NextIrrAmount = static_cast<std::int16_t>(row);
             State.Updates[row] = Today - row;
             SaveFieldRow(User, row);
