@@ -79,9 +79,8 @@ TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfTodayAndInTheRunFromThere) {
 }
 
 TEST_F(AdjustmentsTest, AFieldBehindYesterdayTakesItsDepletionFromItsLastDayOn) {
-    Plant(ShallowField().Days(IntoTheForecast), 1, Today - 3);
-    SelectField(User, 1);
-    State.WeatherLastJulian = Today - 3;
+    SelectNew(ShallowField());
+    State.Stat[1].LastDay = State.WeatherLastJulian = Today - 3;
     Menu.Click("mnuDepletion").Type("TxtNewDepl", "25").Click("cmdDeplOK");
     EXPECT_EQ(State.Updates[1], Today - 3);
     EXPECT_EQ(WaterOn(Today - 3), 31.5F);
