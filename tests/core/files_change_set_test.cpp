@@ -57,16 +57,6 @@ TEST_F(ChangeSets, InsideAnotherJoinItOrAreForgottenAlone) {
     EXPECT_EQ(OnDisk(), (Contents{{"stat.dat", "outer"}, {"field1.dat", "inner"}, {"field2.dat", "two"}}));
 }
 
-TEST_F(ChangeSets, RenumberFieldsInAnyOrder) {
-    ChangeSet set;
-    Rename("field1.dat", "spare.dat");
-    Rename("field2.dat", "field1.dat");
-    Rename("spare.dat", "field2.dat");
-    Rename("STAT.DAT", "stat.dat");  // onto itself
-    set.Commit();
-    EXPECT_EQ(OnDisk(), (Contents{{"stat.dat", "rows"}, {"field1.dat", "two"}, {"field2.dat", "one"}}));
-}
-
 TEST_F(ChangeSets, CostTheSameFlushesForAHundredFilesAndNothingWithoutADifference) {
     FailingDisk disk(1, EIO, true);  // nothing may be called
     InstallDisk(&disk);

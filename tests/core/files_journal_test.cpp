@@ -1,5 +1,7 @@
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <zlib.h>
@@ -58,19 +60,15 @@ class Journals : public FilesTest {
     const Contents carriedOut_{{"field1.dat", "xy"}};
 };
 
-TEST_F(Journals, HaveTheseBytes) { EXPECT_EQ(JournalBytes(SmallChanges()), SmallJournal); }
-
-TEST_F(Journals, ThatAreWholeAreCarriedOut) {
+TEST_F(Journals, HaveTheseBytesAndAreCarriedOutWhereTheyAreWhole) {
+    EXPECT_EQ(JournalBytes(SmallChanges()), SmallJournal);
     EXPECT_EQ(AfterStartWith(SmallJournal), carriedOut_);
     EXPECT_EQ(AfterStartWith(std::string(SmallJournal) + std::string(8192, '\0')), carriedOut_);  // room reserved
 }
 
-TEST_F(Journals, CutAtAnyByteAreDiscarded) {
+TEST_F(Journals, CutAtAnyByteOrWithAnyBitTurnedAreDiscarded) {
     for (std::size_t size = 0; size < SmallJournal.size(); ++size)
         EXPECT_EQ(AfterStartWith(SmallJournal.substr(0, size)), untouched_) << size;
-}
-
-TEST_F(Journals, WithAnyBitTurnedAreDiscarded) {
     for (std::size_t bit = 0; bit < 8 * SmallJournal.size(); ++bit) {
         std::string journal(SmallJournal);
         journal[bit / 8] = static_cast<char>(journal[bit / 8] ^ (1 << (bit % 8)));
@@ -79,28 +77,23 @@ TEST_F(Journals, WithAnyBitTurnedAreDiscarded) {
 }
 
 TEST_F(Journals, ThatAreWholeButForeignAreRefusedAndStay) {
-    struct Row {
-        const char* Says;
-        std::string Journal;
+    const auto with = [](std::size_t place, char byte) {
+        std::string journal(SmallJournal);
+        journal[place] = byte;
+        return journal;
     };
-    std::string newer(SmallJournal);
-    newer[12] = 2;
-    std::string nameTooLong(SmallJournal);
-    nameTooLong[24] = 0x7F;
-    std::string negativeName(SmallJournal);
-    negativeName[27] = '\xFF';
-    std::string fewerChanges(SmallJournal);
-    fewerChanges[20] = 1;
     const auto contents = std::make_shared<const Bytes>("root::0:0:::");
-    for (const Row& row :
-         {Row{"version 2 was left by a newer Veraqua", newer}, Row{"57 bytes, but its counts ask for", nameTooLong},
-          Row{"a negative length at byte", negativeName}, Row{"more bytes than its changes have", fewerChanges},
-          Row{"\"../passwd\" can't be the name", JournalBytes({{"../passwd", {"../passwd", contents}}})}}) {
-        SCOPED_TRACE(row.Says);
+    for (const auto& [says, journal] : std::vector<std::pair<std::string, std::string>>{
+             {"version 2 was left by a newer Veraqua", with(12, 2)},
+             {"57 bytes, but its counts ask for", with(24, 0x7F)},
+             {"a negative length at byte", with(27, '\xFF')},
+             {"more bytes than its changes have", with(20, 1)},
+             {"\"../passwd\" can't be the name", JournalBytes({{"../passwd", {"../passwd", contents}}})}}) {
+        SCOPED_TRACE(says);
         Contents before = untouched_;
-        before["veraqua.journal"] = WithChecksum(row.Journal);
+        before["veraqua.journal"] = WithChecksum(journal);
         Place(before);
-        EXPECT_THAT(FailureOfOpen(Access::Write), HasSubstr(row.Says));
+        EXPECT_THAT(FailureOfOpen(Access::Write), HasSubstr(says));
         EXPECT_EQ(OnDisk(), before);
     }
 }

@@ -70,15 +70,6 @@ class StopAtTheLastFlush : public QuickDisk {
     int FlushFileSystem(int) override { OtherProgram::SayReadyAndWait(); }
 };
 
-/// Stops for good when half of the journal is written.
-class StopInTheJournal : public QuickDisk {
-  public:
-    ssize_t Write(int file, const char* bytes, std::size_t count, off_t position) override {
-        Disk::Write(file, bytes, count / 2, position);
-        OtherProgram::SayReadyAndWait();
-    }
-};
-
 }  // namespace
 
 class Locks : public FilesTest {
@@ -149,20 +140,6 @@ TEST_F(Locks, BesideAHolderAWholeJournalIsReadAndLeftAlone) {
         Open(Path(), Access::Write);
     });
     EXPECT_EQ(Seen(), after_);
-}
-
-TEST_F(Locks, BesideAHolderAHalfJournalIsLeftAloneAndTheOldStateRead) {
-    StopInTheJournal disk;
-    OtherProgram writer(CommitOn(disk));
-    const Contents halfWritten = OnDisk();
-    ASSERT_TRUE(halfWritten.contains("veraqua.journal"));
-    Open(Path(), Access::Read);
-    EXPECT_EQ(Seen(), before_);
-    Close();
-    EXPECT_EQ(OnDisk(), halfWritten);
-    writer.Kill();
-    EXPECT_EQ(FailureOfOpen(Access::Read), "");
-    EXPECT_EQ(OnDisk(), before_);
 }
 
 TEST_F(Locks, AReaderNeverSeesAFileHalfChanged) {

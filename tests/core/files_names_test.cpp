@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -73,19 +71,6 @@ TEST_F(FilesTest, NamesThatNoDataFileCanHaveAreRefused) {
     EXPECT_THROW(Rename("missing.dat", "other.dat"), RunTimeFailure);
     EXPECT_THROW(Rename(std::string(255, 'n'), "a/b"), RunTimeFailure);
     EXPECT_EQ(OnDisk(), (Contents{{std::string(255, 'n'), "the longest"}}));
-}
-
-TEST_F(FilesTest, WhatIsNoFileIsAFailureForReadersAndWriters) {
-    std::filesystem::create_directory(Path() + "field1.dat");
-    ASSERT_EQ(mkfifo((Path() + "field2.dat").c_str(), 0600), 0);
-    Open(Path(), Access::Write);
-    for (const std::string name : {"field1.dat", "field2.dat"}) {
-        SCOPED_TRACE(name);
-        const auto says = ThrowsMessage<RunTimeFailure>(HasSubstr(name));
-        EXPECT_THAT([&] { Read(name); }, says);
-        EXPECT_THAT([&] { Write(name, "x"); }, says);
-        EXPECT_THAT([&] { Remove(name); }, says);
-    }
 }
 
 TEST_F(FilesTest, AFileBeyondAllSenseIsAFailureAndNoAllocation) {

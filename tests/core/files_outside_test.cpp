@@ -74,23 +74,4 @@ TEST_F(FilesTest, AFileThatTheUserNamesIsReadUpToALimit) {
     EXPECT_THROW(ReadOutside(Path() + "veraqua.lock", 5), RunTimeFailure);  // which would give the lock back
 }
 
-TEST_F(FilesTest, DirectoriesAreMadeWithAllAboveThem) {
-    const std::string home = Path() + "share//veraqua/";
-    EXPECT_FALSE(DirectoryExists(home));
-    MakeDirectory(home);
-    MakeDirectory(home);
-    EXPECT_TRUE(DirectoryExists(Path() + "share/veraqua"));
-    Open(home, Access::Write);
-    EXPECT_EQ(DirectoryPath(), home);
-    Close();
-    EXPECT_EQ(DirectoryPath(), "");
-    Open(Path() + "share/veraqua", Access::Read);
-    EXPECT_EQ(DirectoryPath(), Path() + "share/veraqua/");
-    Close();
-
-    Place({{"share", "a file"}});
-    EXPECT_THAT([&] { MakeDirectory(home); }, ThrowsMessage<RunTimeFailure>(HasSubstr(Path() + "share can't be made")));
-    EXPECT_THAT([&] { Open(home, Access::Read); }, ThrowsMessage<RunTimeFailure>(HasSubstr("can't be read")));
-}
-
 }  // namespace veraqua::files
