@@ -2,12 +2,17 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "reports/forms.h"
+#include "shell/forms.h"
+#include "weather/forms/forms.h"
+#include "workbench/forms.h"
 
 namespace veraqua {
 
@@ -23,6 +28,14 @@ struct Typed {
     int Row = 0;
     int Year = 0;
     std::vector<int> Rows;
+    bool Csv = false;
+    std::string Value;
+    std::optional<std::string> Critical;
+    std::string Backup;
+    std::string Date;
+    std::string Amount;
+    Water Kind = Water::Rain;
+    NewFieldOptions NewField;
     std::optional<std::string> OutFile;
     std::string Station;
     std::string From;
@@ -60,6 +73,7 @@ class ProgramOptions {
         AddGlobalOptions();
         AddGeneralCommands();
         AddFieldCommands();
+        AddEventCommands();
         AddWeatherCommands();
         AddReportCommands();
     }
@@ -136,8 +150,128 @@ class ProgramOptions {
             ->type_name("");
         TakeRow(Add(field, "show", "show a field: header, soil, lists, totals",
                     [this](Session& session) { return RunFieldShow(session, typed_.Row); }));
-        TakeRow(Add(field, "days", "list a field's days since planting",
-                    [this](Session& session) { return RunFieldDays(session, typed_.Row); }));
+        CLI::App* days = Add(field, "days", "list a field's days since planting",
+                             [this](Session& session) { return RunFieldDays(session, typed_.Row, typed_.Csv); });
+        TakeRow(days);
+        days->add_flag("--csv", typed_.Csv, "as comma-separated values");
+        TakeRow(Add(field, "chart", "the season of a field as series of values",
+                    [this](Session& session) { return RunFieldChart(session, typed_.Row); }));
+        AddNewField(field);
+        AddFieldChanges(field);
+    }
+
+    void AddNewField(CLI::App* field) {
+        NewFieldOptions& options = typed_.NewField;
+        CLI::App* add = Add(field, "new", "enter a new field and run it for the first time",
+                            [this](Session& session) { return RunFieldNew(session, typed_.NewField); });
+        add->add_option("--crop", options.Crop, "crop, by its name in the crop table")->required()->type_name("NAME");
+        add->add_option("--id", options.Id, "field ID, up to 10 characters")->required()->type_name("TEXT");
+        add->add_option("--plant", options.PlantDate, "planting date; of hay the onset of growth")
+            ->required()
+            ->type_name("DATE");
+        add->add_option("--station", options.Station, "two-digit code of the weather station")
+            ->required()
+            ->type_name("CODE");
+        TakeText(add, "--mad", options.Mad, "management allowed depletion, percent (default: 50)")->type_name("P");
+        TakeText(add, "--mad-critical", options.MadCritical, "critical MAD of hay, percent")->type_name("P");
+        TakeText(add, "--efficiency", options.Efficiency, "irrigation efficiency, percent (default: 75)")
+            ->type_name("P");
+        TakeText(add, "--root", options.Root, "greatest rooting depth, inches or mm (default: the crop's)")
+            ->type_name("DEPTH");
+        TakeText(add, "--dry-days", options.DryDays, "days after an irrigation until hay can be cut")->type_name("N");
+        AddSoil(add);
+    }
+
+    void AddSoil(CLI::App* add) {
+        NewFieldOptions& options = typed_.NewField;
+        CLI::Option* layer =
+            add->add_option("--layer", options.Layers, "a soil layer from the surface down, up to six times")
+                ->check(PartsOf(3))
+                ->type_name("THICKNESS:CAPACITY:CONTENT");
+        CLI::Option* interval = TakeText(add, "--interval", options.Interval, "thickness of all zones of the soil");
+        interval->type_name("DEPTH")->excludes(layer);
+        CLI::Option* zone =
+            add->add_option("--zone", options.Zones, "a zone of the soil from the surface down, each once");
+        zone->check(PartsOf(2))->type_name("CAPACITY:CONTENT")->needs(interval);
+        CLI::Option* copy = add->add_option("--copy-soil", options.CopySoil, "field whose soil is copied");
+        copy->type_name("ROW")->excludes(layer)->excludes(interval);
+        add->final_callback([layer, interval, copy] {
+            if (layer->count() + interval->count() + copy->count() == 0)
+                throw CLI::RequiredError("--layer, --interval with --zone, or --copy-soil");
+        });
+    }
+
+    /// Checks that an option has this many parts between colons.
+    static CLI::Validator PartsOf(std::ptrdiff_t count) {
+        return CLI::Validator(
+            [count](const std::string& text) {
+                return std::count(text.begin(), text.end(), ':') == count - 1
+                           ? std::string()
+                           : "\"" + text + "\" has not " + std::to_string(count) + " parts between colons";
+            },
+            "");
+    }
+
+    void AddFieldChanges(CLI::App* field) {
+        CLI::App* set = field->add_subcommand("set", "change a field's MAD, efficiency or depletion, in percent");
+        TakeRow(set);
+        set->require_subcommand(1);
+        const auto add = [&](const std::string& name, const std::string& what, Adjustment adjusted) {
+            CLI::App* command = Add(set, name, what, [this, adjusted](Session& session) {
+                return RunFieldSet(session, typed_.Row, adjusted, typed_.Value, typed_.Critical);
+            });
+            command->add_option("VALUE", typed_.Value, "percent")->required()->type_name("");
+            return command;
+        };
+        TakeText(add("mad", "the management allowed depletion", Adjustment::Mad), "--critical", typed_.Critical,
+                 "critical MAD of hay (default: as it is)")
+            ->type_name("VALUE");
+        add("efficiency", "the irrigation efficiency", Adjustment::Efficiency);
+        add("depletion", "the depletion of today", Adjustment::Depletion);
+
+        TakeRow(Add(field, "reset", "start the crop over from day 1",
+                    [this](Session& session) { return RunFieldReset(session, typed_.Row); }));
+        TakeRow(Add(field, "harvest", "back a field up and remove it",
+                    [this](Session& session) { return RunFieldHarvest(session, typed_.Row); }));
+        Add(field, "restore", "put a harvested field back",
+            [this](Session& session) { return RunFieldRestore(session, typed_.Backup); })
+            ->add_option("BACKUP", typed_.Backup, "name of the backup")
+            ->required()
+            ->type_name("");
+    }
+
+    void TakeDate(CLI::App* command) { command->add_option("DATE", typed_.Date, "the day")->required()->type_name(""); }
+
+    void AddEventCommands() {
+        const std::map<std::string, Water> kinds{{"rain", Water::Rain}, {"irrigation", Water::Irrigation}};
+        CLI::App* water = AddGroup("water", "record the rain and irrigation of a field");
+        CLI::App* addWater = Add(water, "add", "record water, then run the field", [this](Session& session) {
+            return RunWaterAdd(session, typed_.Row, typed_.Kind, typed_.Date, typed_.Amount);
+        });
+        CLI::App* deleteWater =
+            Add(water, "delete", "remove what is recorded, then run the field",
+                [this](Session& session) { return RunWaterDelete(session, typed_.Row, typed_.Kind, typed_.Date); });
+        for (CLI::App* command : {addWater, deleteWater}) {
+            TakeRow(command);
+            command->add_option("KIND", typed_.Kind, "rain or irrigation")
+                ->required()
+                ->transform(CLI::CheckedTransformer(kinds))
+                ->type_name("");
+            TakeDate(command);
+        }
+        addWater->add_option("AMOUNT", typed_.Amount, "inches or mm")->required()->type_name("");
+
+        CLI::App* cut = AddGroup("cut", "record the cuttings of a hay field");
+        CLI::App* addCut = Add(cut, "add", "record a cutting, then run the field", [this](Session& session) {
+            return RunCutAdd(session, typed_.Row, typed_.Date, typed_.Amount);
+        });
+        CLI::App* deleteCut = Add(cut, "delete", "remove a cutting, then run the field",
+                                  [this](Session& session) { return RunCutDelete(session, typed_.Row, typed_.Date); });
+        for (CLI::App* command : {addCut, deleteCut}) {
+            TakeRow(command);
+            TakeDate(command);
+        }
+        addCut->add_option("NUMBER", typed_.Amount, "number of the cutting")->required()->type_name("");
     }
 
     void AddWeatherCommands() {
@@ -213,6 +347,10 @@ class ProgramOptions {
 }  // namespace
 
 int RunProgram(int argumentCount, const char* const* arguments) {
+    AddWorkbenchForms();
+    AddReportForms();
+    AddWeatherForms();
+    AddShellForms();
     Session session;
     ProgramOptions options(session);
     try {

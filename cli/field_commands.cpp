@@ -8,6 +8,8 @@
 #include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
+#include "reports/days_csv.h"
+#include "reports/season_chart.h"
 
 namespace veraqua {
 
@@ -60,11 +62,21 @@ int RunFieldShow(Session& session, int row) {
     return ExitDone;
 }
 
-int RunFieldDays(Session& session, int row) {
+int RunFieldDays(Session& session, int row, bool csv) {
     if (!session.OpenData(files::Access::Read)) return ExitRefused;
     const std::optional<FieldFile> file = FieldOf(session, row);
     if (!file) return ExitRefused;
-    session.Print(JsonOfDays(*file), TextOfDays(*file));
+    session.Print(JsonOfDays(*file), csv ? DaysCsv(*file, State.EnglishUnits) : TextOfDays(*file));
+    return ExitDone;
+}
+
+int RunFieldChart(Session& session, int row) {
+    if (!session.OpenData(files::Access::Read)) return ExitRefused;
+    const std::optional<FieldFile> file = FieldOf(session, row);
+    if (!file) return ExitRefused;
+    const StatRecord& record = State.Stat[row];
+    session.Print(JsonOf(SeasonChart(*file, record, State.TodayJulian, false)),
+                  TextOf(SeasonChart(*file, record, State.TodayJulian, State.EnglishUnits)));
     return ExitDone;
 }
 

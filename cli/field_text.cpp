@@ -1,5 +1,7 @@
 #include "cli/field_text.h"
 
+#include <map>
+
 #include <fmt/format.h>
 
 #include "cli/text_table.h"
@@ -147,6 +149,28 @@ std::string TextOfDays(const FieldFile& file) {
         first = false;
     }
     return table.Text();
+}
+
+std::string TextOf(const Chart& chart) {
+    std::vector<TextTable::Column> columns{{"Day", TextTable::Side::Left}};
+    std::map<JulianValue, std::vector<std::string>> lines;
+    for (const ChartSeries& series : chart.Series) {
+        columns.push_back({fmt::format("{} ({})", series.Name, series.Unit), TextTable::Side::Right});
+        for (const ChartSeries::Point& point : series.Points) {
+            std::vector<std::string>& cells = lines[point.Day];
+            cells.resize(columns.size() - 1);
+            cells.back() = Masked(point.Value, State.EnglishUnits ? "0.00" : "0.0");
+        }
+    }
+    TextTable table(columns);
+    for (auto& [day, cells] : lines) {
+        cells.resize(columns.size() - 1);
+        cells.insert(cells.begin(), JulianToLongText(day));
+        table.Add(std::move(cells));
+    }
+    std::string text = chart.Title + "\n\n" + table.Text() + "\n";
+    for (const ChartMark& mark : chart.Marks) text += fmt::format("{}: {}\n", mark.Name, JulianToLongText(mark.Day));
+    return text;
 }
 
 }  // namespace veraqua

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/field_file.h"
+#include "screen/chart.h"
 
 /// Fields as plain text for a terminal, in the user's units.
 namespace veraqua {
@@ -11,5 +12,8 @@ namespace veraqua {
 std::string TextOfRows(const std::vector<int>& rows);
 std::string TextOfField(int row, const FieldFile& file);
 std::string TextOfDays(const FieldFile& file);
+
+/// A line per day with the values of all series, and the marks below.
+std::string TextOf(const Chart& chart);
 
 }  // namespace veraqua

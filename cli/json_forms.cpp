@@ -177,4 +177,17 @@ Json JsonOf(const WeatherDay& day) {
             {"source", day.Source.Text()}};
 }
 
+Json JsonOf(const Chart& chart) {
+    Json series = Json::array();
+    for (const ChartSeries& one : chart.Series) {
+        Json points = Json::array();
+        for (const ChartSeries::Point& point : one.Points)
+            points.push_back({point.Day, static_cast<float>(point.Value)});
+        series.push_back({{"name", one.Name}, {"unit", one.Unit}, {"points", points}});
+    }
+    Json marks = Json::array();
+    for (const ChartMark& mark : chart.Marks) marks.push_back({{"name", mark.Name}, {"day", JsonOf(mark.Day)}});
+    return {{"series", series}, {"marks", marks}};
+}
+
 }  // namespace veraqua

@@ -8,6 +8,7 @@
 
 #include "core/field_file.h"
 #include "core/records.h"
+#include "screen/chart.h"
 
 /// The JSON documents of veraqua-cli. Amounts are metric, fractions as stored; scripts depend on the keys.
 namespace veraqua {
@@ -33,5 +34,8 @@ Json JsonOfField(int row, const FieldFile& file);
 Json JsonOfDays(const FieldFile& file);
 
 Json JsonOf(const WeatherDay& day);
+
+/// The series and marks of a season chart.
+Json JsonOf(const Chart& chart);
 
 }  // namespace veraqua

@@ -6,11 +6,14 @@
 
 #include <fmt/format.h>
 
+#include "cli/field_text.h"
 #include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
 #include "core/text.h"
+#include "screen/forms.h"
 #include "shell/data_search.h"
+#include "weather/coverage.h"
 
 namespace veraqua {
 
@@ -66,6 +69,22 @@ bool IsField(Session& session, int row) {
     if (row >= 1 && row <= MaxFields && State.Stat[row].LastDay > 0) return true;
     session.Outside.Tell(fmt::format("There is no field in row {}.", row));
     return false;
+}
+
+bool TakeUpField(Session& session, int row) {
+    if (!session.OpenData(files::Access::Write) || !IsField(session, row)) return false;
+    Show(FormName::frmField);
+    return SelectField(session.Outside, row);
+}
+
+bool TakeUpFieldToRun(Session& session, int row) {
+    return TakeUpField(session, row) &&
+           FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)) != Coverage::RegionMissing;
+}
+
+int PrintRow(Session& session, int row) {
+    session.Print(JsonOfRow(row), TextOfRows({row}));
+    return ExitDone;
 }
 
 }  // namespace veraqua

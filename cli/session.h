@@ -61,6 +61,16 @@ class Session {
     bool outputLost_ = false;
 };
 
+/// Takes the field of `row` up for a command that changes it, as the workbench shows it: opens the data directory,
+/// brings the workbench up and selects the field. False after a message.
+bool TakeUpField(Session& session, int row);
+
+/// The same, and works out how far the field's weather reaches, for a command that runs it. No question is asked.
+bool TakeUpFieldToRun(Session& session, int row);
+
+/// Prints the field's row of the directory and gives the exit status of a command that is done.
+int PrintRow(Session& session, int row);
+
 /// Whether `row` is a field's; if not, the user is told.
 bool IsField(Session& session, int row);
 

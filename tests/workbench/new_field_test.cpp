@@ -1,0 +1,173 @@
+#include <filesystem>
+#include <set>
+
+#include "core/clock.h"
+#include "tests/workbench/new_field_fixture.h"
+
+namespace veraqua {
+namespace {
+
+TEST_F(NewFieldTest, StartsWithTheCropsNumbersInTheUnitsOfTheUser) {
+    Begin();
+    EXPECT_EQ(Entry.txt_def_root.Text, "39.4 in.");  // 1 m
+    EXPECT_TRUE(Entry.txt_new_root.Visible && !Entry.txtDry.Visible && !Entry.frm_hay.Visible);
+    const Date clock = DateFromJulian(ClockDate());  // though today is in 2003
+    EXPECT_EQ(Entry.TxtPlantDate.Text, Plain(clock.Month) + "/" + Plain(clock.Day) + "/" + std::to_string(clock.Year));
+    AtEntry().Close();
+    EXPECT_EQ(State.CurrentField, 0);
+
+    State.EnglishUnits = false;
+    Begin(Alfalfa);
+    EXPECT_EQ(Entry.lbl_plantdate.Caption, "Onset of Growth Date:");
+    EXPECT_EQ(Entry.txtRootD.Text, "1200");
+    EXPECT_EQ(Entry.txtDry.Text, "7");
+    EXPECT_TRUE(!Entry.txt_new_root.Visible && Entry.txtRootD.Visible);
+}
+
+TEST_F(NewFieldTest, ABoxIsLeftOnlyWithWhatItTakes) {
+    Begin(Alfalfa);
+    const char* percent = "Input Error: Please enter a value between 1 and 100!";
+    for (const Step& step :
+         {Step{"txtMAD", "0.9", percent, "txtMAD (selected)"},
+          Step{"txtIrrEff", "100.1", percent, "txtIrrEff (selected)"},
+          Step{"txtMADcritical", "x", percent, "txtMADcritical (selected)"},
+          Step{"txtRootD", "101", "Input Error: Please enter a positive value", "txtRootD (selected)"},
+          Step{"txtDry", "", "Input Error: Please enter a positive integer", "txtDry (selected)"},
+          Step{"txtDry", "0", "Input Error: Please enter a positive integer between 1 and 100", "txtDry (selected)"},
+          Step{"TxtPlantDate", "2/29/2003", "INVALID DATE: Planting date needs to be in mm/dd/yyyy format!",
+               "TxtPlantDate"}}) {
+        FormOf(FormName::frmLoadField).Focused = nullptr;
+        EXPECT_TRUE(AtEntry().Type(step.Box, step.Text).Enter("txtFieldID").Held()) << step.Box;
+        EXPECT_EQ(User.LastSaid(), step.Said);
+        EXPECT_EQ(User.FocusedControls.back(), std::string("frmLoadField.") + step.Focused);
+    }
+    AtEntry().Click("cmd_Cancel");  // no check stops the way out
+    EXPECT_FALSE(IsLoaded(FormName::frmLoadField));
+    EXPECT_EQ(Form.Caption, "Field Options, Veraqua Ver 1.17");
+}
+
+TEST_F(NewFieldTest, OkChecksInItsOrder) {
+    Plant(AField().Id("west"), 1);
+    Plant(AField().Id("SOUTH"), 3);
+    Begin();
+    At ok = AtEntry();
+    const auto said = [&](const char* text, const char* focused) {
+        ok.Click("cmd_OK");
+        EXPECT_EQ(User.LastSaid(), text);
+        EXPECT_EQ(User.FocusedControls.back(), std::string("frmLoadField.") + focused);
+    };
+    said("Missing Field ID: Please enter a Field ID Code!", "txtFieldID");
+    ok.Type("txtFieldID", "\u20ac");
+    said("Input Error: The Field ID Code has a character that no field file can hold.", "txtFieldID");
+    for (const char* taken : {"West", "south"}) {
+        ok.Type("txtFieldID", taken);
+        said("Duplicate Field ID: You have already used this Field ID Code. Please select another!", "txtFieldID");
+    }
+    ok.Type("txtFieldID", "WEST ");  // a blank makes another ID of it
+    said("Nothing selected: Please select a Weather Station from the drop-down list", "ComboKESTA");
+    ok.Pick("ComboKESTA", 5).Type("TxtPlantDate", "5.1.03");
+    said("Date input error: Please enter a date in the form: mm-dd-yyyy", "TxtPlantDate");
+    ok.Type("TxtPlantDate", "12/31/1903");
+    said("Date input error: The planting date is too far in the past.", "TxtPlantDate");
+    ok.Type("TxtPlantDate", "5/1/2003").Type("txt_new_root", "39.4");
+    said("Input Error: New value must be less than the default maximum rooting depth.", "txt_new_root");
+    EXPECT_FALSE(ok.Held());
+}
+
+TEST_F(NewFieldTest, ANewRootDepthCanBeRaisedAgainUpToTheCrops) {
+    State.EnglishUnits = false;
+    Begin();
+    Describe();
+    for (const auto& [text, depth] : {std::pair{"600", 0.6F}, {"1000", 1.0F}, {"700", 0.7F}, {"", 1.0F}, {"0", 1.0F}}) {
+        AtEntry().Type("txt_new_root", text).Click("cmd_OK");
+        EXPECT_EQ(State.Field.RootMax, depth) << text;
+    }
+}
+
+TEST_F(NewFieldTest, AClickAndAChangeOfTheStationRefuseDifferentRows) {
+    Begin();
+    std::set<int> clicked;
+    std::set<int> changed;
+    for (int row = 0; row < static_cast<int>(Entry.ComboKESTA.Items.size()); ++row) {
+        AtEntry().Pick("ComboKESTA", row);
+        if (Entry.ComboKESTA.Index < 0) clicked.insert(row);
+        AtEntry().Type("ComboKESTA", State.DefaultStations[static_cast<std::size_t>(row)]);
+        if (Entry.ComboKESTA.Index < 0) changed.insert(row);
+    }
+    EXPECT_EQ(clicked, (std::set{17, 18, 25}));
+    EXPECT_EQ(changed, (std::set{10, 15, 16, 17, 24}));
+    EXPECT_EQ(User.LastSaid(), "Bad selection: Please select a site that isn't off-line!");
+    AtEntry().Type("ComboKESTA", "Nowhere");
+    EXPECT_EQ(User.LastSaid(), "Nothing selected: Please select a location from the drop-down list");
+}
+
+TEST_F(NewFieldTest, WithoutItsWeatherTheFieldWaitsForAnotherDateOrStation) {
+    Begin();
+    Describe().Pick("ComboKESTA", 6);
+    User.WeatherSource = [] { State.DownloadFailed = State.ReportCancelled = true; };
+    AtEntry().Click("cmd_OK");
+    EXPECT_TRUE(FormOf(FormName::frmLoadField).Shown);
+    EXPECT_FALSE(State.DownloadFailed || State.ReportCancelled || IsLoaded(FormName::frmCap));
+    AtEntry().Pick("ComboKESTA", 5).Click("cmd_OK");
+    EXPECT_EQ(User.Presented.back(), FormName::frmCap);
+    EXPECT_EQ(Form.StatusBar1.Panels[2], "Kesta: Fenwold, 06  ");
+    AtEntry().Click("cmd_Cancel");
+    EXPECT_EQ(State.CurrentField, 0);
+    EXPECT_FALSE(Stands(1));
+}
+
+// A field of alfalfa under a station without any weather: the default weather of the year is taken, the soil entered in
+// zones of a foot, and the first prediction made.
+TEST_F(NewFieldTest, ANewFieldComesThroughEveryFormToItsFirstPrediction) {
+    Begin(Alfalfa);
+    Describe("Creek side meadow").Pick("ComboKESTA", 7).Type("txtRootD", "36").Type("txtMAD", "55");
+    User.WhenShown(FormName::frmKESTA, [] { At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return"); });
+    EnterSoil(FormName::frmCap, [](At& soil) {
+        soil.Type("txtDepth", "12").Click("cmdDepth");
+        for (const char* zone : {"0", "1", "2", "3"})
+            soil.Type("txtcap(" + std::string(zone) + ")", "1.7").Type("txtcon(" + std::string(zone) + ")", "1.5");
+        soil.Click("cmdOK");
+    });
+    EXPECT_TRUE(User.Failures.empty());
+    EXPECT_FALSE(IsLoaded(FormName::frmLoadField) || IsLoaded(FormName::frmCap));
+    EXPECT_EQ(User.Presented.back(), FormName::frmFieldData);
+    EXPECT_EQ(Form.lbl_ID.Caption, "Field ID is:  Creek side");
+
+    Directory.Reopen();
+    StartUp(User);
+    const StatRecord& row = State.Stat[1];
+    EXPECT_EQ(row.LastDay, Today - 1);
+    EXPECT_EQ(row.CropName.Text(), "@ALFALFA");
+    EXPECT_NE(row.NextIrrAmount, AmountNoDataYet);
+    const FieldFile file = LoadFieldFile(1);
+    EXPECT_EQ(file.Hay.StationCode.Text(), "08");
+    EXPECT_EQ(file.Hay.RootMax, 0.9144F);
+    EXPECT_EQ(file.Hay.MAD, 55);
+    EXPECT_EQ(file.Hay.MADCritical, 65);
+    EXPECT_EQ(file.Hay.IrrEff, 0.75F);
+    EXPECT_EQ(file.Hay.CapacityTop, 3);                // 0.9144 / 0.3048 gives 2 or 3 only by the singles' noise
+    EXPECT_EQ(file.Soil.Capacity[3], 142);             // 1.7 x 25.4 / 0.3048 = 141.67
+    EXPECT_EQ(file.Days[0].Available, 125 * 0.9144F);  // 1.5 in/ft are 125 mm/m
+}
+
+// The yearly need of the first run doesn't fit a file: the deep soil is entered as a thousandfold of what it is.
+TEST_F(NewFieldTest, AFieldThatCantBeRunLeavesNothingAndCanBeCorrected) {
+    Begin(Maize, Variable);
+    Describe();
+    const auto before = Files();
+    EnterSoil(FormName::frmCapVar, [&](At& soil) {
+        User.OtherAnswer = true;
+        soil.Type("txtRoot(0)", "39").Type("txtcap(0)", "384").Type("txtcon(0)", "0").Click("cmdOK");
+        EXPECT_EQ(User.Failures.size(), 1U);
+        EXPECT_EQ(Files(), before);
+        EXPECT_EQ(State.FieldCount, 0);
+        EXPECT_TRUE(FormOf(FormName::frmCapVar).Shown && FormOf(FormName::frmLoadField).Shown);
+        soil.Type("txtcap(0)", "1.68").Type("txtcon(0)", "1.68").Click("cmdOK");
+    });
+    EXPECT_TRUE(Stands(1));
+    EXPECT_EQ(State.CurrentField, 1);
+    EXPECT_EQ(State.FieldCount, 1);
+}
+
+}  // namespace
+}  // namespace veraqua
