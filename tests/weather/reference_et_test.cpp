@@ -45,13 +45,6 @@ TEST(WeightingFactor, IsTheTablesValueAndLiesOnTheLineBetweenAndBeyondAxisPoints
     EXPECT_FLOAT_EQ(WeightingFactorW(44), .87f);        // .85 + 2 * .01
 }
 
-TEST(AdjustmentFactor, IsTheTablesValueAtAnAxisPoint) {
-    EXPECT_EQ(AdjustmentFactorC(3, 0, 30, 1), .86f);
-    EXPECT_EQ(AdjustmentFactorC(12, 9, 30, 1), .70f);
-    EXPECT_EQ(AdjustmentFactorC(3, 9, 60, 4), .76f);
-    EXPECT_EQ(AdjustmentFactorC(9, 9, 60, 3), .88f);  // looks too low, but is printed so
-}
-
 // Each coordinate lies half an interval above the table, so that each step takes 1.5 * upper - .5 * lower.
 //                            Ud 6: Rs 9, 12          Ud 9: Rs 9, 12
 // ratio 3, humidity 60       1.02   1.10              .88   1.05
