@@ -1,0 +1,182 @@
+#include <cstdlib>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+#include "data/embedded.h"
+#include "reports/forms.h"
+#include "shell/configuration.h"
+#include "shell/data_path.h"
+#include "shell/forms.h"
+#include "shell/help.h"
+#include "shell/main_menu.h"
+#include "tests/support/script_screen.h"
+#include "weather/forms/forms.h"
+#include "workbench/forms.h"
+
+namespace veraqua {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// The program on a computer whose user has the data home of the test's directory; no data directory is open yet.
+struct ShellTest : FormTest {
+    ShellTest() {
+        AddShellForms();
+        AddWeatherForms();
+        AddReportForms();
+        AddWorkbenchForms();
+        setenv("XDG_DATA_HOME", (Directory.Path() + "home").c_str(), 1);
+        files::Close();
+    }
+    ~ShellTest() override { unsetenv("XDG_DATA_HOME"); }
+
+    /// A data directory of that name, with nothing in it but the stations.
+    std::string Make(const std::string& name) const {
+        std::filesystem::create_directories(Directory.Path() + name);
+        Directory.Put(name + "/weathdef.dat", EmbeddedFile("weathdef.dat"));
+        return Directory.Path() + name + "/";
+    }
+};
+
+TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
+    const std::string capital = Make("home/Veraqua");
+    Directory.Put("home/Veraqua/network.txt", " http://other.example/data \r\nmore");
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), capital);
+    EXPECT_EQ(std::filesystem::file_size(capital + "stat.dat"), 4100U);
+    EXPECT_EQ(State.BaseUrl, "http://other.example/data/");
+    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[0], " Veraqua Ver 1.17 ");
+    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], "  Today is 07-15-2003");
+    At(FormName::frmVeraqua).Click("cmdWeather");
+    EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
+    At(FormName::frmWeather).Click("Cmd_Exit");
+    At(FormName::frmVeraqua).Click("cmdHelp");
+    EXPECT_THAT(User.Presented, ElementsAre(FormName::frmVeraqua, FormName::frmWeather, FormName::frmVeraqua,
+                                            FormName::frmHelp, FormName::frmVeraqua));
+    Show(FormName::frmWeather);
+    EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
+    EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
+    EXPECT_EQ(files::DirectoryPath(), "");
+
+    Make("home/veraqua");
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), Directory.Path() + "home/veraqua/");
+}
+
+TEST_F(ShellTest, SaysWhyItCannotStart) {
+    Make("home/veraqua");
+    Directory.Put("home/veraqua/weathdef.dat", "33, 6\nFENWOLD\n");
+    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
+    EXPECT_THAT(User.LastSaid(), HasSubstr("weathdef.dat"));
+    EXPECT_EQ(User.Told.back().Icon, Icon::Stop);
+}
+
+TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
+    const std::string other = Make("other");
+    User.WhenShown(FormName::frmPath, [&] {
+        frmPath& form = The<frmPath>();
+        EXPECT_EQ(form.lblMsg.Caption, "The file WEATHDEF.DAT was not found at the \ndefault location " +
+                                           Directory.Path() + "home/veraqua/ or " + Directory.Path() +
+                                           "home/Veraqua/\n\nPlease find it below or exit.  Thank You. ");
+        EXPECT_FALSE(form.Dir1.Visible || form.cmd_OK.Visible);
+        At(FormName::frmPath).Click("cmd_Find");
+        form.Dir1.Path = Directory.Path();
+        form.Dir1.Files = {"a", "b"};
+        At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
+        EXPECT_EQ(form.lblPath.Caption, Directory.Path());
+        EXPECT_EQ(form.File1.Items.size(), 2U);
+        EXPECT_EQ(User.LastSaid(),
+                  "Still Missing!: The required file <weathdef.dat> was not found at: " + Directory.Path());
+        form.Dir1.Path = other;
+        At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
+    });
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), other);
+    EXPECT_FALSE(IsLoaded(FormName::frmPath));
+    EXPECT_TRUE(IsLoaded(FormName::frmVeraqua));
+}
+
+TEST_F(ShellTest, MakesADirectoryForANewUser) {
+    for (const auto& [button, fields] : {std::pair{"cmd_Empty", false}, {"cmd_Sample", true}}) {
+        User.WhenShown(FormName::frmPath, [button = button] { At(FormName::frmPath).Click(button); });
+        Show(FormName::frmVeraqua);
+        EXPECT_EQ(files::DirectoryPath(), Directory.Path() + "home/veraqua/");
+        EXPECT_EQ(State.FieldCount > 0, fields);
+        Unload(FormName::frmVeraqua);
+        std::filesystem::remove_all(Directory.Path() + "home");
+    }
+}
+
+TEST_F(ShellTest, EndsWhereTheUserFindsNoDirectory) {
+    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
+    EXPECT_FALSE(Directory.Has("home"));
+}
+
+struct Options : ShellTest {
+    frmConfig& Form = The<frmConfig>();
+
+    Options() {
+        Make("home/veraqua");
+        Show(FormName::frmVeraqua);
+        At(FormName::frmVeraqua).Click("cmdConfig");
+    }
+};
+
+TEST_F(Options, PutADateInThePlaceOfTheComputers) {
+    EXPECT_EQ(Form.Caption, "Configuration Options, Veraqua Ver 1.17");
+    At(FormName::frmConfig).Click("mnuDate");
+    for (const auto& [text, said] :
+         {std::pair{"2/30/2005", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"2/29/2003", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"13/1/2003", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"5/5", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"5/5/2005/", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
+          {"02/28/05", "Date input error: Please enter a date (greater than 1900) formated like: MM/DD/YYYY"}}) {
+        At(FormName::frmConfig).Type("txtDate", text).Click("cmdOK");
+        EXPECT_EQ(User.LastSaid(), said) << text;
+        EXPECT_EQ(State.TodayJulian, JulianFromDate(7, 15, 2003));
+        EXPECT_EQ(User.Now(), State.TodayJulian);
+    }
+    At(FormName::frmConfig).Type("txtDate", " 2/28/2005 ").Click("cmdOK");
+    EXPECT_EQ(User.LastSaid(), "Date Set: New Date set to 02-28-2005.  (Julian Value = 732311).");
+    EXPECT_EQ(State.TodayJulian, JulianFromDate(2, 28, 2005));
+    EXPECT_EQ(User.Now(), JulianFromDate(2, 28, 2005));
+    EXPECT_EQ(Form.StatusBar1.Panels[1], "  Today is 02-28-2005");
+    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], "  Today is 02-28-2005");
+    At(FormName::frmConfig).Click("cmd_Calendar");
+    EXPECT_EQ(Form.Cal1.Day, User.Now());
+    At(FormName::frmConfig).PickDay("Cal1", JulianFromDate(3, 5, 2004));
+    EXPECT_EQ(Form.txtDate.Text, "03-05-2004");
+}
+
+TEST_F(Options, SetTheUnitsAndTheDisplay) {
+    At(FormName::frmConfig).Click("mnuDate").Click("mnuUnits");
+    EXPECT_TRUE(Form.optEnglish.Chosen && !Form.optMetric.Chosen && !Form.txtDate.Visible);
+    At(FormName::frmConfig).Click("optMetric");
+    EXPECT_FALSE(State.EnglishUnits);
+    At(FormName::frmConfig).Click("mnuDisplay");
+    EXPECT_EQ(Form.lstDisplay.Selected()->Text, "12");
+    EXPECT_FALSE(Form.optMetric.Visible);
+    At(FormName::frmConfig).Pick("lstDisplay", 7);
+    EXPECT_EQ(State.DisplayDays, 16);
+    EXPECT_EQ(Form.txtDisplays.Text, "16");
+    At(FormName::frmConfig).Close();
+    EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown && !IsLoaded(FormName::frmConfig));
+}
+
+TEST_F(Options, TheManualOpensInTheSpellingThatItHas) {
+    User.WhenShown(FormName::frmHelp, [] { At(FormName::frmHelp).Click("cmd_manual").Click("cmdPrint"); });
+    ShowModal(FormName::frmHelp);
+    EXPECT_EQ(User.LastSaid(), "VERAQUA ERROR: Can't find VERAQUA USER'S MANUAL");
+    Directory.Put("home/veraqua/veraguide.DOC", "text");
+    ShowModal(FormName::frmHelp);
+    EXPECT_THAT(User.OpenedDocuments, ElementsAre(Directory.Path() + "home/veraqua/veraguide.DOC"));
+    EXPECT_THAT(User.PrintedForms, testing::Contains(FormName::frmHelp));
+    EXPECT_EQ(User.Told.size(), 1U);
+}
+
+}  // namespace
+}  // namespace veraqua
