@@ -105,6 +105,10 @@ TEST_F(Prediction, TellsTheFirstDayOfThePresentSpellOfDryness) {
         EXPECT_EQ(Result.MadExceededDay, madExceeded) << day;
         EXPECT_EQ(Result.DriedOutDay, driedOut) << day;
     }
+    for (const auto& [gddSum, seasonEnd] : {std::pair{400.0F, 0}, {400.5F, 29}, {420.0F, 29}}) {
+        Day(day++, 10, gddSum);
+        EXPECT_EQ(Result.SeasonEndDay, seasonEnd);  // the first day past the harvest's heat sum
+    }
 }
 
 TEST_F(Prediction, OfACuttingIsTheFirstDayAtItsHeatSumUntilItIsCut) {
@@ -143,13 +147,6 @@ TEST_F(Prediction, RemembersTheNeedsOfUpToAHundredDaysOfDrying) {
     Play({{120, 75, 20, 66, 400}});
     Limits.DryDays = 101;
     EXPECT_FAILURE(PredictionChecks{Limits}, HasSubstr("101 days"));
-}
-
-TEST_F(Prediction, MarksTheFirstDayPastTheHarvestHeatSum) {
-    for (const auto& [day, gddSum, end] : {std::tuple{11, 400.0F, 0}, {12, 400.5F, 12}, {13, 420.0F, 12}}) {
-        Day(day, 10, gddSum);
-        EXPECT_EQ(Result.SeasonEndDay, end);
-    }
 }
 
 // Planted on day 100 for at most 160 days and 1000 degree days.

@@ -1,7 +1,7 @@
 #include <cerrno>
 
 #include "core/failure.h"
-#include "tests/engine/update_fixture.h"
+#include "tests/engine/season_fixture.h"
 #include "tests/support/failing_disks.h"
 
 namespace veraqua {

@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/engine/update_fixture.h"
+#include "tests/engine/season_fixture.h"
 
 namespace veraqua {
 namespace {

@@ -28,16 +28,17 @@ void ExpectWater(const std::vector<DepthCase>& cases, std::initializer_list<std:
 }
 
 TEST(SoilWaterInZones, IsTheSumOfTheirShares) {
-    ExpectWater({{0, 0, 0},
-                 {0, 0.125F, 12.5},
-                 {0, 0.25F, 25},  // a boundary counts to the zone below, with a share of 0
+    // Zones of 25, 30, 40 and 50 mm. A boundary counts to the zone below, and below the last zone its value holds on.
+    // Upwards the water is negative within a zone, but not over a boundary.
+    ExpectWater({{0, 0.125F, 12.5},
+                 {0, 0.25F, 25},
                  {0.25F, 0.5F, 30},
-                 {0.125F, 0.625F, 62.5},  // 12.5 + 30 + 20
-                 {0, 1, 145},             // 25 + 30 + 40 + 50
-                 {0.5F, 1.25F, 140},      // below the last zone its value holds on: 40 + .5 * 200
+                 {0.125F, 0.625F, 62.5},
+                 {0, 1, 145},
+                 {0.5F, 1.25F, 140},
                  {2, 3, 200},
-                 {0.1875F, 0.0625F, -12.5},  // negative upwards within a zone, but not over a boundary
-                 {0.375F, 0.125F, 0.125 * 120 + 0.125 * 100}},
+                 {0.1875F, 0.0625F, -12.5},
+                 {0.375F, 0.125F, 27.5}},
                 {100, 120, 160, 200});
 }
 
@@ -50,20 +51,21 @@ TEST(SoilWaterInZones, TakesTheZoneByTheStoredSingles) {
 }
 
 TEST(SoilWaterInLayers, IsTheSumOfTheirShares) {
-    ExpectWater(
-        {{0, 0, 0},
-         {0, 0.25F, 25},
-         {0, 0.5F, 55},       // 25 + .25 * 120
-         {0.5F, 0.875F, 50},  // .25 * 120 + .125 * 160
-         {0.625F, 0.75F, 15},
-         {0, 1, 125},      // 25 + 60 + 40
-         {0, 1.25F, 165},  // below the last layer its value holds on
-         {0.25F, 0.25F, 0},
-         {0.625F, 0.5F, -15},   // upwards
-         {0.5F, 0.125F, 42.5},  // over the boundary: .25 * 120 + .125 * 100, the surface being the layer's top
-         // An interval that begins below all layers begins in the first one: 60 + (.25 - 1.25) * 100 + .75 * 160
-         {1.25F, 1.5F, 80}},
-        {100, 120, 160}, {0.25F, 0.5F, 0.25F});
+    // Layers of 25, 60 and 40 mm; the last one's value holds on below it. Upwards over a boundary the surface is the
+    // layer's top: .25 * 120 + .125 * 100. An interval that begins below all layers begins in the first one:
+    // 60 + (.25 - 1.25) * 100 + .75 * 160.
+    ExpectWater({{0, 0.25F, 25},
+                 {0, 0.5F, 55},
+                 {0.5F, 0.875F, 50},
+                 {0.625F, 0.75F, 15},
+                 {0, 1, 125},
+                 {0, 1.25F, 165},
+                 {0.625F, 0.5F, -15},
+                 {0.5F, 0.125F, 42.5},
+                 {1.25F, 1.5F, 80}},
+                {100, 120, 160}, {0.25F, 0.5F, 0.25F});
+    EXPECT_FAILURE(ExpectWater({{0, 1.5F, 0}}, {1, 1, 1, 1, 1, 1, 1}, {0.25F, 0.25F, 0.25F, 0.25F, 0.25F, 0.25F}),
+                   HasSubstr("7 layers"));
 }
 
 // Allen, Pereira, Raes and Smith 1998, FAO Irrigation and Drainage Paper 56, Example 36: onion, tomato and maize in
