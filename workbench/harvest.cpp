@@ -64,26 +64,16 @@ HarvestedRow RowAtPlanting(const FieldFile& file) {
     return start;
 }
 
-/// A name that the user typed could be that of a field in use.
-void ExpectBackup(const std::string& name) {
+/// A name that the user typed could be that of any file, also of a field in use.
+bool IsBackup(const std::string& name) {
     const std::vector<Backup> backups = FindBackups();
-    if (std::none_of(backups.begin(), backups.end(), [&](const Backup& backup) { return backup.FileName == name; }))
-        throw RunTimeFailure(fmt::format("{} is no harvested field in the data directory.", name));
+    return std::any_of(backups.begin(), backups.end(), [&](const Backup& backup) { return backup.FileName == name; });
 }
 
-bool MayBeRestored(const FieldFile& file) {
-    if (LowestFreeRow() == 0) {
-        TheScreen().Tell("Veraqua keeps at most 100 fields.");
-        return false;
-    }
-    const auto id = file.Header().FieldId.UpperCase();
+bool IsIdInUse(const FixedText<10>& id) {
     const std::vector<int> rows = RowsInUse();
-    if (std::none_of(rows.begin(), rows.end(), [&](int row) { return State.Stat[row].FieldId.UpperCase() == id; }))
-        return true;
-    TheScreen().Tell("A field in use has the Field ID Code " + file.Header().FieldId.Text() +
-                         ". Harvest it before you restore this one.",
-                     "Duplicate Field ID");
-    return false;
+    return std::any_of(rows.begin(), rows.end(),
+                       [&](int row) { return State.Stat[row].FieldId.UpperCase() == id.UpperCase(); });
 }
 
 /// Puts the backup back as the field of `row`, as one set of changes. Gives what else there is to be said.
@@ -132,10 +122,18 @@ std::string HarvestField(int row) {
 }
 
 std::optional<int> RestoreField(const std::string& backupName) {
-    ExpectBackup(backupName);
+    const auto refuse = [](const std::string& text, std::string_view title = ProgramTitle) {
+        TheScreen().Tell(text, title);
+        return std::nullopt;
+    };
+    if (!IsBackup(backupName)) return refuse(backupName + " is no harvested field in the data directory.");
     const FieldFile file = LoadBackup(backupName);
-    if (!MayBeRestored(file)) return std::nullopt;
+    const std::string id = file.Header().FieldId.Text();
     const int row = LowestFreeRow();
+    if (row == 0) return refuse("Veraqua keeps at most 100 fields.");
+    if (IsIdInUse(file.Header().FieldId))
+        return refuse("A field in use has the Field ID Code " + id + ". Harvest it before you restore this one.",
+                      "Duplicate Field ID");
     std::string_view remark;
     try {
         remark = PutBack(backupName, file, row);
@@ -143,9 +141,7 @@ std::optional<int> RestoreField(const std::string& backupName) {
         StartDirectory();
         throw;
     }
-    TheScreen().Tell(
-        fmt::format("Field ID = {} was restored from {}{}", file.Header().FieldId.Text(), backupName, remark),
-        "Field Restored");
+    TheScreen().Tell(fmt::format("Field ID = {} was restored from {}{}", id, backupName, remark), "Field Restored");
     return row;
 }
 
@@ -188,7 +184,7 @@ void mnuRestore_Click(frmField& form) {
 }
 
 void RestorePicked(frmField& form, int number) {
-    if (!RestoreField(form.Backups.at(static_cast<std::size_t>(number - 1)))) return;
+    if (!RestoreField(form.Backups[static_cast<std::size_t>(number - 1)])) return;
     SelectNothing(form);
     ListFields(form);
 }

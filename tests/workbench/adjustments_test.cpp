@@ -12,7 +12,6 @@ struct AdjustmentsTest : FieldMenuTest {
         Plant(field.Days(days), 1);
         Select(0);
     }
-
     static FieldFile Stored() { return LoadFieldFile(1); }
     static float WaterOn(JulianValue day) {
         return Stored().Days.at(static_cast<std::size_t>(day - Planting)).Available;
@@ -45,46 +44,37 @@ TEST_F(AdjustmentsTest, MadIsStoredInTheHeaderAloneAndRoundedToTheEvenHalf) {
 }
 
 TEST_F(AdjustmentsTest, AFieldWhoseEfficiencyIsZeroCanBeRepaired) {
-    SelectNew(AField().Content(40));  // so dry that the next run asks for irrigation at once
-    Menu.Click("mnuIEffic");
-    EXPECT_EQ(Form.lblCurrIRR.Caption, "Current Irr. Efficiency (%):   85");
-    Menu.Type("TxtNewIRR", "0").Click("cmdIRROK");
-    EXPECT_EQ(User.LastSaid(), ": New Irrigation Efficiency set to: 0%");
-    State.Stat[1].LastDay = Today - 2;
-    SaveFieldRow(User, 1);
+    // So dry that the run asks for irrigation at once.
+    Plant(AField().Content(40).Efficiency(0).Days(ThroughYesterday), 1, Today - 2);
     const auto before = Files();
     Select(0);
     EXPECT_EQ(User.Failures.size(), 1U);
     EXPECT_EQ(Files(), before);
-    EXPECT_TRUE(Form.lbl_ID.Visible);
     Menu.Click("mnuIEffic").Type("TxtNewIRR", "62.5").Click("cmdIRROK");
-    EXPECT_EQ(Stored().Field.IrrEff, 0.625F);
+    EXPECT_EQ(User.LastSaid(), ": New Irrigation Efficiency set to: 62.5%");
+    Menu.Click("mnuIEffic");
+    EXPECT_EQ(Form.lblCurrIRR.Caption, "Current Irr. Efficiency (%):   62.5");
     Select(0);
     EXPECT_GT(State.Stat[1].NextIrrAmount, 0);
 }
 
-TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfTodayAndInTheRunFromThere) {
+TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfItsDayAndInTheRunFromThere) {
     SelectNew(ShallowField());
     Menu.Click("mnuDepletion");
     EXPECT_EQ(Form.lblDeplVal.Caption, "Depletion (%) for 07-15-2003:  0");
     EXPECT_EQ(Form.lblRootWater.Caption, "Available water in root zone:  0.5 in/ft");  // 42 mm
     State.EnglishUnits = false;
-    Menu.Type("TxtNewDepl", "25").Click("cmdDeplOK");
-    // A quarter of the 42 mm is gone.
-    EXPECT_EQ(User.LastSaid(), ": New depletion set to: 25%\nNew water content in root zone set to: 31.5mm/m");
-    EXPECT_EQ(WaterOn(Today), 31.5F);
-    EXPECT_LT(WaterOn(Today + 1), 31.5F);
-    EXPECT_EQ(State.Updates[1], Today);
-    EXPECT_THAT(Form.lblChange.Caption, testing::StartsWith("Next irrigation moves from not known to 07-"));
-}
-
-TEST_F(AdjustmentsTest, AFieldBehindYesterdayTakesItsDepletionFromItsLastDayOn) {
-    SelectNew(ShallowField());
-    State.Stat[1].LastDay = State.WeatherLastJulian = Today - 3;
-    Menu.Click("mnuDepletion").Type("TxtNewDepl", "25").Click("cmdDeplOK");
-    EXPECT_EQ(State.Updates[1], Today - 3);
-    EXPECT_EQ(WaterOn(Today - 3), 31.5F);
-    EXPECT_LT(WaterOn(Today - 2), 31.5F);
+    for (const JulianValue lastDay : {Today - 1, Today - 3}) {  // one that stands behind yesterday is run on from there
+        State.Stat[1].LastDay = State.WeatherLastJulian = lastDay;
+        Menu.Click("mnuDepletion").Type("TxtNewDepl", "25").Click("cmdDeplOK");
+        // A quarter of the 42 mm is gone.
+        EXPECT_EQ(User.LastSaid(), ": New depletion set to: 25%\nNew water content in root zone set to: 31.5mm/m");
+        const JulianValue day = lastDay == Today - 1 ? Today : lastDay;
+        EXPECT_EQ(State.Updates[1], day);
+        EXPECT_EQ(WaterOn(day), 31.5F);
+        EXPECT_LT(WaterOn(day + 1), 31.5F);
+    }
+    EXPECT_THAT(Form.lblChange.Caption, testing::StartsWith("Next irrigation moves from 07-"));
 }
 
 TEST_F(AdjustmentsTest, WhatCannotBeSetLeavesTheFilesAlone) {
