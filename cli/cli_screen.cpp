@@ -43,7 +43,10 @@ bool CliScreen::YesNo(std::string_view text, std::string_view title, Icon, bool)
 }
 
 HttpReply CliScreen::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
-    return HttpGet(url, state);
+    return HttpGet(url, [&](std::string_view text) {
+        ShowState(text);
+        state(text);
+    });
 }
 
 void CliScreen::Progress(std::string_view what, std::size_t done, std::size_t total) {

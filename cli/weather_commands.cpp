@@ -12,7 +12,6 @@
 #include "screen/headless.h"
 #include "weather/coverage.h"
 #include "weather/default_weather.h"
-#include "weather/forms/forms.h"
 #include "weather/forms/weather_menu.h"
 #include "weather/import.h"
 #include "weather/network_text.h"
@@ -109,7 +108,6 @@ int RunWeatherImport(Session& session, const ImportOptions& options) {
 
 int RunWeatherFetch(Session& session, const std::string& station, bool overwrite) {
     if (!OpenStation(session, station)) return ExitRefused;
-    AddWeatherForms();
     Show(FormName::frmWeather);
     At(FormName::frmWeather).Click(overwrite ? "mnu_OverwriteWeather" : "mnu_AppendWeather");
     const CommandReport& report = The<frmWeather>().Report;
