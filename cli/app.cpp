@@ -195,7 +195,7 @@ class ProgramOptions {
         zone->check(PartsOf(2))->type_name("CAPACITY:CONTENT")->needs(interval);
         CLI::Option* copy = add->add_option("--copy-soil", options.CopySoil, "field whose soil is copied");
         copy->type_name("ROW")->excludes(layer)->excludes(interval);
-        add->final_callback([layer, interval, copy] {
+        add->parse_complete_callback([layer, interval, copy] {
             if (layer->count() + interval->count() + copy->count() == 0)
                 throw CLI::RequiredError("--layer, --interval with --zone, or --copy-soil");
         });
