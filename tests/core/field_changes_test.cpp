@@ -1,22 +1,16 @@
-#include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 
 #include "core/field_file.h"
-#include "core/state.h"
 #include "tests/support/builders.h"
-#include "tests/support/data_directory.h"
 #include "tests/support/failure.h"
 
 namespace veraqua {
 
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 FieldFile After(FieldFile file, const FieldChanges& changes) {
     ApplyChanges(file, changes);
@@ -121,29 +115,6 @@ TEST(Changes, NewRowsEndTheFile) {
         changes.StartDay = startDay;
         EXPECT_FAILURE(After(file, changes), HasSubstr("5 rows")) << startDay;
     }
-}
-
-TEST_F(DirectoryTest, AWriterBringsHeaderAndSoilAndTheRestIsCarriedOver) {
-    const FieldFile old = AField().Days(3).Rain(731700, 12).Irrigation(731701, 40).StoreAt(1);
-    const std::string bytes = Directory.Raw("field1.dat");
-    Directory.Put("field1.dat", bytes + "surplus");
-    ASSERT_TRUE(SelectField(User, 1));
-    State.Field.MAD = 45;
-    FieldChanges changes;
-    changes.StartDay = old.Field.PlantDay + 1;
-    changes.Days = {{41, 9, 0.25F, 6, 5}};
-    changes.RainRemoved = true;
-    SoilProfile soil = old.Soil;
-    soil.Content = {80, 85, 95, 100};
-    WriteField(changes, soil);
-    const FieldFile written = LoadFieldFile(1);
-    EXPECT_EQ(written.Field, State.Field);
-    EXPECT_EQ(written.Field.MAD, 45);
-    EXPECT_EQ(written.Soil, soil);
-    EXPECT_THAT(written.Days, ElementsAre(old.Days[0], changes.Days[0]));
-    EXPECT_THAT(written.Lists.Rain, IsEmpty());
-    EXPECT_EQ(written.Lists.Irrigation, old.Lists.Irrigation);
-    EXPECT_THAT(Directory.Raw("field1.dat"), SizeIs(bytes.size() - 18 - 6)) << "a row and a record less, no surplus";
 }
 
 }  // namespace

@@ -33,17 +33,6 @@ TEST(TextItems, CommasLineEndsQuotesAndBlankLinesInAnyMix) {
     EXPECT_TRUE(items.AtEnd());
 }
 
-TEST(TextItems, ALineIsTakenWholeWhereTheItemsEnd) {
-    TextItems items("1,2\r\nSora, Valley\r\n3\n4", "weathdef.dat");
-    items.Integer16();
-    items.Integer16();
-    EXPECT_EQ(items.Line(), "Sora, Valley");
-    EXPECT_EQ(items.Integer16(), 3);
-    EXPECT_EQ(items.Line(), "4");
-    EXPECT_TRUE(items.AtEnd());
-    EXPECT_FAILURE(items.Line(), HasSubstr("weathdef.dat: line 4"));
-}
-
 TEST(TextItems, WhatIsNoNumberOrNotThereIsAFailureThatNamesFileAndLine) {
     for (const std::string item : {"abc", "1.2.3", "12x", "0x10", "1-2", "+-5", "inf", "1e99", ",", "\"5\""}) {
         const std::string text = "5\n\n" + item + "\n6";

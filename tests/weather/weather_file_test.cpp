@@ -34,14 +34,6 @@ TEST_F(WeatherFileTest, HasARecordOfFortyTwoBytesPerDay) {
     EXPECT_EQ(Directory.Raw("weather07.03").substr(42), SecondDay);
 }
 
-TEST_F(WeatherFileTest, HasABlankDayBehindItsEndAndBeforeItsBeginning) {
-    AWeatherYear("06", 2003).Through(3).Store();
-    const WeatherFile file("06", 2003);
-    for (const int day : {0, 4, 366}) EXPECT_EQ(file.Day(day), WeatherDay{}) << day;
-    EXPECT_EQ(WeatherFile("06", 2004).Days(), 0);
-    EXPECT_FALSE(Directory.Has("weather06.04"));
-}
-
 TEST_F(WeatherFileTest, IgnoresABrokenRecordAtItsEndAndWritesOverIt) {
     for (const std::size_t broken : {1U, 41U}) {
         Directory.Put("weather06.03", AWeatherYear("06", 2003).Through(1).Bytes() + SecondDay.substr(0, broken));
