@@ -31,24 +31,18 @@ struct NewFieldTest : FieldMenuTest {
         return form;
     }
 
-    /// Goes on to the soil form, where the user does `doing`. What is left open after it is closed by its frame.
+    /// Goes on to the soil form, where the user does `doing`; left open, it is closed by its frame.
     void EnterSoil(FormName form, const std::function<void(At&)>& doing) {
-        User.WhenShown(form, [=] {
+        bool reached = false;
+        User.WhenShown(form, [&, form] {
+            reached = true;
             At soil(form);
             doing(soil);
         });
         AtEntry().Click("cmd_OK");
+        User.WhenShown(form, [] {});
+        EXPECT_TRUE(reached);
     }
-
-    static bool Stands(int row) { return State.Stat[row].LastDay > 0 && files::Exists(FieldFileName(row)); }
-};
-
-/// A step of the user's, what he is told after it, and the box that has the focus then.
-struct Step {
-    const char* Box;
-    const char* Text;
-    const char* Said;
-    const char* Focused;
 };
 
 }  // namespace veraqua

