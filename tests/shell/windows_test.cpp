@@ -47,30 +47,16 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     EXPECT_EQ(files::DirectoryPath(), capital);
     EXPECT_EQ(std::filesystem::file_size(capital + "stat.dat"), 4100U);
     EXPECT_EQ(State.BaseUrl, "http://other.example/data/");
-    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[0], " Veraqua Ver 1.17 ");
-    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], "  Today is 07-15-2003");
+    const auto& panels = The<frmVeraqua>().StatusBar1.Panels;
+    EXPECT_EQ(panels[0] + panels[1], " Veraqua Ver 1.17   Today is 07-15-2003");
     At(FormName::frmVeraqua).Click("cmdWeather");
     EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
     At(FormName::frmWeather).Click("Cmd_Exit");
-    At(FormName::frmVeraqua).Click("cmdHelp");
-    EXPECT_THAT(User.Presented, ElementsAre(FormName::frmVeraqua, FormName::frmWeather, FormName::frmVeraqua,
-                                            FormName::frmHelp, FormName::frmVeraqua));
+    EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown);
     Show(FormName::frmWeather);
     EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
     EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
     EXPECT_EQ(files::DirectoryPath(), "");
-
-    Make("home/veraqua");
-    Show(FormName::frmVeraqua);
-    EXPECT_EQ(files::DirectoryPath(), Directory.Path() + "home/veraqua/");
-}
-
-TEST_F(ShellTest, SaysWhyItCannotStart) {
-    Make("home/veraqua");
-    Directory.Put("home/veraqua/weathdef.dat", "33, 6\nFENWOLD\n");
-    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
-    EXPECT_THAT(User.LastSaid(), HasSubstr("weathdef.dat"));
-    EXPECT_EQ(User.Told.back().Icon, Icon::Stop);
 }
 
 TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
@@ -83,10 +69,8 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
         EXPECT_FALSE(form.Dir1.Visible || form.cmd_OK.Visible);
         At(FormName::frmPath).Click("cmd_Find");
         form.Dir1.Path = Directory.Path();
-        form.Dir1.Files = {"a", "b"};
         At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
         EXPECT_EQ(form.lblPath.Caption, Directory.Path());
-        EXPECT_EQ(form.File1.Items.size(), 2U);
         EXPECT_EQ(User.LastSaid(),
                   "Still Missing!: The required file <weathdef.dat> was not found at: " + Directory.Path());
         form.Dir1.Path = other;
@@ -94,11 +78,10 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
     });
     Show(FormName::frmVeraqua);
     EXPECT_EQ(files::DirectoryPath(), other);
-    EXPECT_FALSE(IsLoaded(FormName::frmPath));
-    EXPECT_TRUE(IsLoaded(FormName::frmVeraqua));
+    EXPECT_TRUE(IsLoaded(FormName::frmVeraqua) && !IsLoaded(FormName::frmPath));
 }
 
-TEST_F(ShellTest, MakesADirectoryForANewUser) {
+TEST_F(ShellTest, MakesADirectoryForANewUserOrEnds) {
     for (const auto& [button, fields] : {std::pair{"cmd_Empty", false}, {"cmd_Sample", true}}) {
         User.WhenShown(FormName::frmPath, [button = button] { At(FormName::frmPath).Click(button); });
         Show(FormName::frmVeraqua);
@@ -107,11 +90,14 @@ TEST_F(ShellTest, MakesADirectoryForANewUser) {
         Unload(FormName::frmVeraqua);
         std::filesystem::remove_all(Directory.Path() + "home");
     }
-}
-
-TEST_F(ShellTest, EndsWhereTheUserFindsNoDirectory) {
+    User.WhenShown(FormName::frmPath, [] {});
     EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
     EXPECT_FALSE(Directory.Has("home"));
+    Make("home/veraqua");  // the capital one isn't looked at
+    Directory.Put("home/veraqua/weathdef.dat", "33, 6\nFENWOLD\n");
+    FormOf(FormName::frmVeraqua).Loaded = false;
+    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
+    EXPECT_THAT(User.LastSaid(), HasSubstr("weathdef.dat"));
 }
 
 struct Options : ShellTest {
@@ -125,31 +111,21 @@ struct Options : ShellTest {
 };
 
 TEST_F(Options, PutADateInThePlaceOfTheComputers) {
-    EXPECT_EQ(Form.Caption, "Configuration Options, Veraqua Ver 1.17");
     At(FormName::frmConfig).Click("mnuDate");
-    for (const auto& [text, said] :
-         {std::pair{"2/30/2005", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"2/29/2003", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"13/1/2003", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"5/5", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"5/5/2005/", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"", "Date not accepted!: Please enter date like: dd/mm/yyyy"},
-          {"02/28/05", "Date input error: Please enter a date (greater than 1900) formated like: MM/DD/YYYY"}}) {
+    for (const char* text : {"2/30/2005", "2/29/2003", "13/1/2003", "5/5", "5/5/2005/", "", "02/28/05"}) {
         At(FormName::frmConfig).Type("txtDate", text).Click("cmdOK");
-        EXPECT_EQ(User.LastSaid(), said) << text;
-        EXPECT_EQ(State.TodayJulian, JulianFromDate(7, 15, 2003));
-        EXPECT_EQ(User.Now(), State.TodayJulian);
+        EXPECT_EQ(User.LastSaid(),
+                  std::string_view(text).ends_with("/05")  // a day, but not of this calendar
+                      ? "Date input error: Please enter a date (greater than 1900) formated like: MM/DD/YYYY"
+                      : "Date not accepted!: Please enter date like: dd/mm/yyyy")
+            << text;
+        EXPECT_TRUE(State.TodayJulian == JulianFromDate(7, 15, 2003) && User.Now() == State.TodayJulian) << text;
     }
     At(FormName::frmConfig).Type("txtDate", " 2/28/2005 ").Click("cmdOK");
     EXPECT_EQ(User.LastSaid(), "Date Set: New Date set to 02-28-2005.  (Julian Value = 732311).");
-    EXPECT_EQ(State.TodayJulian, JulianFromDate(2, 28, 2005));
-    EXPECT_EQ(User.Now(), JulianFromDate(2, 28, 2005));
+    EXPECT_EQ(State.TodayJulian, 732311);
     EXPECT_EQ(Form.StatusBar1.Panels[1], "  Today is 02-28-2005");
-    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], "  Today is 02-28-2005");
-    At(FormName::frmConfig).Click("cmd_Calendar");
-    EXPECT_EQ(Form.Cal1.Day, User.Now());
-    At(FormName::frmConfig).PickDay("Cal1", JulianFromDate(3, 5, 2004));
-    EXPECT_EQ(Form.txtDate.Text, "03-05-2004");
+    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], Form.StatusBar1.Panels[1]);
 }
 
 TEST_F(Options, SetTheUnitsAndTheDisplay) {
@@ -159,23 +135,19 @@ TEST_F(Options, SetTheUnitsAndTheDisplay) {
     EXPECT_FALSE(State.EnglishUnits);
     At(FormName::frmConfig).Click("mnuDisplay");
     EXPECT_EQ(Form.lstDisplay.Selected()->Text, "12");
-    EXPECT_FALSE(Form.optMetric.Visible);
     At(FormName::frmConfig).Pick("lstDisplay", 7);
     EXPECT_EQ(State.DisplayDays, 16);
-    EXPECT_EQ(Form.txtDisplays.Text, "16");
     At(FormName::frmConfig).Close();
     EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown && !IsLoaded(FormName::frmConfig));
 }
 
 TEST_F(Options, TheManualOpensInTheSpellingThatItHas) {
-    User.WhenShown(FormName::frmHelp, [] { At(FormName::frmHelp).Click("cmd_manual").Click("cmdPrint"); });
+    User.WhenShown(FormName::frmHelp, [] { At(FormName::frmHelp).Click("cmd_manual"); });
     ShowModal(FormName::frmHelp);
-    EXPECT_EQ(User.LastSaid(), "VERAQUA ERROR: Can't find VERAQUA USER'S MANUAL");
     Directory.Put("home/veraqua/veraguide.DOC", "text");
     ShowModal(FormName::frmHelp);
     EXPECT_THAT(User.OpenedDocuments, ElementsAre(Directory.Path() + "home/veraqua/veraguide.DOC"));
-    EXPECT_THAT(User.PrintedForms, testing::Contains(FormName::frmHelp));
-    EXPECT_EQ(User.Told.size(), 1U);
+    EXPECT_THAT(User.Texts(), ElementsAre("Can't find VERAQUA USER'S MANUAL"));
 }
 
 }  // namespace
