@@ -30,6 +30,17 @@ float IntervalMetres(double interval) {
                     "the depth interval");
 }
 
+/// Index of the last zone that the soil down to `rootMax` m has in zones of `interval` as entered.
+int ZoneTopFor(float rootMax, double interval) { return ZoneAt(rootMax, IntervalMetres(interval)); }
+
+/// The smallest interval of one decimal with which the soil down to `rootMax` m fits the form's zones, as entered.
+double SmallestInterval(float rootMax) {
+    const double depth = State.EnglishUnits ? rootMax / MetresPerFoot * InchesPerFoot : rootMax * 1000.0;
+    int tenths = std::max(1, static_cast<int>(depth / frmCap::MostZones * 10));
+    while (ZoneTopFor(rootMax, tenths / 10.0) >= frmCap::MostZones) ++tenths;
+    return tenths / 10.0;
+}
+
 // ----------------------------------------------------------------------------------------------------------- the zones
 
 void SetZoneVisible(frmCap& form, std::size_t zone, bool visible) {
@@ -191,15 +202,6 @@ void cmdPrint_Click(frmCap&) { PrintForm(FormName::frmCap, "Unable to print the 
 void cmdCancel_Click(frmCap&) { Unload(FormName::frmCap); }
 
 }  // namespace
-
-int ZoneTopFor(float rootMax, double interval) { return ZoneAt(rootMax, IntervalMetres(interval)); }
-
-double SmallestInterval(float rootMax) {
-    const double depth = State.EnglishUnits ? rootMax / MetresPerFoot * InchesPerFoot : rootMax * 1000.0;
-    int tenths = std::max(1, static_cast<int>(depth / frmCap::MostZones * 10));
-    while (ZoneTopFor(rootMax, tenths / 10.0) >= frmCap::MostZones) ++tenths;
-    return tenths / 10.0;
-}
 
 FormTable TableOf(frmCap& form) {
     FormFor table(form, FormName::frmCap, "frmCap");

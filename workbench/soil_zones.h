@@ -34,11 +34,4 @@ struct frmCap : Form {
 
 FormTable TableOf(frmCap& form);
 
-/// Index of the last zone that the soil down to `rootMax` m has in zones of `interval` as entered. RunTimeFailure if it
-/// can't be told.
-int ZoneTopFor(float rootMax, double interval);
-
-/// The smallest interval of one decimal with which the soil down to `rootMax` m fits the form's zones, as entered.
-double SmallestInterval(float rootMax);
-
 }  // namespace veraqua
