@@ -39,27 +39,30 @@ void EmptyLayer(frmCapVar& form, std::size_t layer) {
     SetLayerVisible(form, layer, false);
 }
 
-/// Brings the sum and the drawing up to date with the thicknesses.
-void ShowDepths(frmCapVar& form) {
-    form.CumDepth = 0;
-    for (const float thickness : form.LayerDepth)
-        form.CumDepth = ToInteger16(form.CumDepth + static_cast<double>(thickness), "the sum of the soil layers");
-    form.lblCumm.Caption = fmt::format("{}{}", form.CumDepth, UnitText());
-    DrawSoilColumn(form.sh_soil, form.LayerDepth, form.MaxDepth);
+/// Takes the thicknesses and brings their sum and the drawing up to date.
+void SetThicknesses(frmCapVar& form, const LayerBounds& thicknesses) {
+    std::int16_t sum = 0;
+    for (const float thickness : thicknesses)
+        sum = ToInteger16(sum + static_cast<double>(thickness), "the sum of the soil layers");
+    form.LayerDepth = thicknesses;
+    form.CumDepth = sum;
+    form.lblCumm.Caption = fmt::format("{}{}", sum, UnitText());
+    DrawSoilColumn(form.sh_soil, thicknesses, form.MaxDepth);
 }
 
 void FillFrom(frmCapVar& form, const CopiedSoil& copied) {
     // In metric use a copied thickness is that in centimetres.
     const double perMetre = State.EnglishUnits ? InchesPerMetre : 100;
+    LayerBounds thicknesses{};
     for (std::size_t layer = 0; layer <= static_cast<std::size_t>(copied.CopiedCapTop); ++layer) {
         SetLayerVisible(form, layer, true);
         const double thickness = static_cast<double>(copied.CopiedDepths[layer]) * perMetre;
-        form.LayerDepth[layer] = ToSingle(thickness, "the thickness of a soil layer");
+        thicknesses[layer] = ToSingle(thickness, "the thickness of a soil layer");
         form.txtRoot[layer].Text = Masked(thickness, State.EnglishUnits ? "0.00" : "0.0");
         form.txtcap[layer].Text = EnteredWaterText(copied.CopiedCapacity[layer]);
         form.txtcon[layer].Text = EnteredWaterText(copied.CopiedContent[layer]);
     }
-    ShowDepths(form);
+    SetThicknesses(form, thicknesses);
 }
 
 void Load(frmCapVar& form) {
@@ -96,8 +99,9 @@ double Clamped(const frmCapVar& form, std::size_t layer, double value) {
 }
 
 void SetThickness(frmCapVar& form, std::size_t layer, double thickness) {
-    form.LayerDepth[layer] = ToSingle(thickness, "the thickness of a soil layer");
-    ShowDepths(form);
+    LayerBounds thicknesses = form.LayerDepth;
+    thicknesses[layer] = ToSingle(thickness, "the thickness of a soil layer");
+    SetThicknesses(form, thicknesses);
 }
 
 bool txtRoot_Leave(frmCapVar& form, int index) {
