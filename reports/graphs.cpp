@@ -40,17 +40,10 @@ GraphRow GraphRowOf(int number, const FieldFile& file) {
             row.LastDay};
 }
 
-/// The rows of all fields. One whose file is missing or damaged is told of and left out.
+/// The rows of all fields that can be read.
 std::vector<GraphRow> GraphRows() {
     std::vector<GraphRow> rows;
-    for (const int row : RowsInUse()) {
-        try {
-            if (const auto file = StoredField(TheScreen(), row))
-                rows.push_back(ComputedFrom(FieldFileName(row), [&] { return GraphRowOf(row, *file); }));
-        } catch (const RunTimeFailure& failure) {
-            TheScreen().Tell(failure.what(), ProgramTitle, Icon::Stop);
-        }
-    }
+    ForEachStoredField(TheScreen(), [&rows](int row, const FieldFile& file) { rows.push_back(GraphRowOf(row, file)); });
     return rows;
 }
 

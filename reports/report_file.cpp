@@ -19,7 +19,7 @@ constexpr std::string_view Separators = "/\\";
 constexpr std::size_t LongestName = 255;  // bytes, in every usual file system
 
 /// Names of the data directory's own files, in lower case: "#" is a digit, "*" one or more digits, "?" any character.
-constexpr std::array<std::string_view, 13> DataFileNames{
+constexpr std::array<std::string_view, 14> DataFileNames{
     "stat.dat",
     "updates.dat",
     "crop.dat",
@@ -31,6 +31,7 @@ constexpr std::array<std::string_view, 13> DataFileNames{
     "kesta.##",
     "####rd.txt",
     "??????????_######_ *.dat",  // a harvested field: ID, date, counter
+    "??????????_######_ *.row",  // its row of the directory
     files::LockName,
     files::JournalName,
 };

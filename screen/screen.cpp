@@ -2,6 +2,7 @@
 
 #include <cassert>
 
+#include "core/text.h"
 #include "screen/forms.h"
 
 namespace veraqua {
@@ -32,6 +33,13 @@ void InstallScreen(Screen& screen) { installed = &screen; }
 void Focus(const Control& control) { PutFocusOn(control, false); }
 
 void SelectText(const TextBox& box) { PutFocusOn(box, true); }
+
+JulianValue TypedDay(TextBox& box) {
+    std::string text(Trimmed(box.Text));
+    const JulianValue day = ValidateDate(TheScreen(), text);
+    if (day != 0) box.Text = text;
+    return day;
+}
 
 void PrintForm(FormName form, std::string_view failureText) {
     const PrintOutcome outcome = TheScreen().PrintImage(FormOf(form));

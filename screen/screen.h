@@ -99,6 +99,9 @@ void InstallScreen(Screen& screen);
 void Focus(const Control& control);
 void SelectText(const TextBox& box);
 
+/// The day typed into `box`, which shows it in long form then; 0, after the user has been told why, if it is none.
+JulianValue TypedDay(TextBox& box);
+
 /// Prints `form`; on failure tells `failureText`, or the platform's reason where it is empty.
 void PrintForm(FormName form, std::string_view failureText = {});
 

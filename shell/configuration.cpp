@@ -51,19 +51,18 @@ void cmd_Calendar_Click(frmConfig& form) {
 void Cal1_Click(frmConfig& form) { form.txtDate.Text = JulianToLongText(form.Cal1.Day); }
 
 void cmdOK_Click(frmConfig& form) {
-    std::string text(Trimmed(form.txtDate.Text));
-    if (!IsCalendarDay(text)) {
+    if (!IsCalendarDay(Trimmed(form.txtDate.Text))) {
         // The day stands first in these words, but the month is read first.
         TheScreen().Tell("Please enter date like: dd/mm/yyyy", "Date not accepted!", Icon::Warning);
         return;
     }
-    const JulianValue day = ValidateDate(TheScreen(), text);
+    const JulianValue day = TypedDay(form.txtDate);
     if (day == 0) return;
     State.TodayJulian = day;
     TheScreen().SetNow(day);
     ShowProgramIn(form.StatusBar1);
     ShowProgramIn(The<frmVeraqua>().StatusBar1);
-    TheScreen().Tell(fmt::format("New Date set to {}.  (Julian Value = {}).", text, day), "Date Set");
+    TheScreen().Tell(fmt::format("New Date set to {}.  (Julian Value = {}).", form.txtDate.Text, day), "Date Set");
 }
 
 void mnuUnits_Click(frmConfig& form) {

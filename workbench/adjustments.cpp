@@ -1,6 +1,5 @@
 #include "workbench/adjustments.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -13,6 +12,7 @@
 #include "core/units.h"
 #include "engine/season_run.h"
 #include "engine/soil_water.h"
+#include "reports/field_days.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/change_line.h"
@@ -63,7 +63,7 @@ struct RootZoneNow {
 
 RootZoneNow LookAtRootZone(const FieldFile& file) {
     RootZoneNow zone;
-    zone.View = AsOf(file, std::min(State.Stat[State.CurrentField].LastDay + 1, State.TodayJulian));
+    zone.View = AsOf(file, StateDay(State.Stat[State.CurrentField]));
     const DayRecord& day = file.Days[zone.View.Row];
     const float roots = file.IsHay ? file.Hay.RootMax : day.RootDepthOrKc;
     zone.Capacity = SoilWaterBetween(0, roots, CapacityGrid(file.Header(), file.Soil.Bounds), file.Soil.Capacity);
@@ -150,7 +150,7 @@ void mnuDepletion_Click(frmField& form) {
               {&form.ShapeDepl, &form.lblDeplVal, &form.lblRootWater, &form.lbl_reset, &form.cmd_Reset,
                &form.lblNewDepl, &form.cmdDeplOK, &form.cmdDeplCanc},
               form.TxtNewDepl);
-    form.lblDeplVal.Caption = "Depletion (%) for " + JulianToLongText(zone.View.Day) + ":  " + Plain(row.Depletion);
+    form.lblDeplVal.Caption = "Depletion (%) for " + JulianToShortText(zone.View.Day) + ":  " + Plain(row.Depletion);
     // The two captions differ by one blank.
     form.lblRootWater.Caption =
         (State.EnglishUnits ? "Available water in root zone:  " : "Available water in root zone: ") +

@@ -6,7 +6,6 @@
 
 #include "core/numbers.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "reports/prediction_text.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
@@ -68,13 +67,6 @@ bool DateStands(JulianValue day) {
     return true;
 }
 
-JulianValue TypedDay(frmCuts& form) {
-    std::string text(Trimmed(form.txtCutAdd.Text));
-    const JulianValue day = ValidateDate(TheScreen(), text);
-    if (day != 0) form.txtCutAdd.Text = text;
-    return day;
-}
-
 /// What is wrong with a cut number; empty if nothing is.
 std::string_view FaultOf(std::optional<double> number) {
     if (!number) return "Please enter a number value for your cut number";
@@ -84,7 +76,7 @@ std::string_view FaultOf(std::optional<double> number) {
 }
 
 void cmdOKCut_Click(frmCuts& form) {
-    const JulianValue day = TypedDay(form);
+    const JulianValue day = TypedDay(form.txtCutAdd);
     if (!DateStands(day)) return Focus(form.txtCutAdd);
     const std::optional<double> number = Numeric(form.txtCutNumber.Text);
     const std::string_view fault = FaultOf(number);
@@ -98,7 +90,7 @@ void cmdOKCut_Click(frmCuts& form) {
 
 void cmdDelete_Click(frmCuts& form) {
     const ListItem* selected = form.ListCuts.Selected();
-    const JulianValue day = selected != nullptr ? selected->Data : TypedDay(form);
+    const JulianValue day = selected != nullptr ? selected->Data : TypedDay(form.txtCutAdd);
     if (!DateStands(day)) return;
     if (!TheScreen().YesNo(fmt::format("Are you sure you wish to delete the CUTTING on: {}?", JulianToShortText(day)),
                            "DELETE Confirmation", Icon::Question, false))

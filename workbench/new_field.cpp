@@ -209,8 +209,7 @@ bool StationIsPicked(frmLoadField& form) {
 
 /// 0 if there is none, after the user has been told.
 JulianValue EnteredPlantDay(frmLoadField& form) {
-    std::string text(Trimmed(form.TxtPlantDate.Text));
-    JulianValue day = ValidateDate(TheScreen(), text);
+    JulianValue day = TypedDay(form.TxtPlantDate);
     // File names of weather carry two digits of the year.
     if (day != 0 && YearOf(day) <= YearOf(TheScreen().Now()) - 100) {
         TheScreen().Tell("The planting date is too far in the past.", "Date input error");

@@ -6,7 +6,6 @@
 
 #include "core/numbers.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "core/units.h"
 #include "reports/prediction_text.h"
 #include "screen/field_caption.h"
@@ -126,15 +125,8 @@ void Apply(frmAddWater& form, const Side& side, JulianValue day, std::optional<d
     }
 }
 
-JulianValue TypedDay(const Side& side) {
-    std::string text(Trimmed(side.Date.Text));
-    const JulianValue day = ValidateDate(TheScreen(), text);
-    if (day != 0) side.Date.Text = text;
-    return day;
-}
-
 void Record(frmAddWater& form, const Side& side) {
-    const JulianValue day = TypedDay(side);
+    const JulianValue day = TypedDay(side.Date);
     if (!DateStands(day)) return Focus(side.Date);
     const std::optional<double> amount = Numeric(side.Amount.Text);
     if (!amount || *amount <= 0) {
@@ -149,7 +141,7 @@ void Record(frmAddWater& form, const Side& side) {
 
 void Delete(frmAddWater& form, const Side& side) {
     const ListItem* selected = side.List.Selected();
-    const JulianValue day = selected != nullptr ? selected->Data : TypedDay(side);
+    const JulianValue day = selected != nullptr ? selected->Data : TypedDay(side.Date);
     if (!DateStands(day)) return;
     if (!TheScreen().YesNo(fmt::format("{}{}?", side.ConfirmDelete, JulianToShortText(day)), "DELETE Confirmation",
                            Icon::Question, false))

@@ -60,7 +60,7 @@ TEST_F(AdjustmentsTest, AFieldWhoseEfficiencyIsZeroCanBeRepaired) {
 TEST_F(AdjustmentsTest, ADepletionSetIsInTheWaterOfItsDayAndInTheRunFromThere) {
     SelectNew(ShallowField());
     Menu.Click("mnuDepletion");
-    EXPECT_EQ(Form.lblDeplVal.Caption, "Depletion (%) for 07-15-2003:  0");
+    EXPECT_EQ(Form.lblDeplVal.Caption, "Depletion (%) for 07-15-03:  0");
     EXPECT_EQ(Form.lblRootWater.Caption, "Available water in root zone:  0.5 in/ft");  // 42 mm
     State.EnglishUnits = false;
     for (const JulianValue lastDay : {Today - 1, Today - 3}) {  // one that stands behind yesterday is run on from there

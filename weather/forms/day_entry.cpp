@@ -114,8 +114,7 @@ void Cal1_Click(frmWeather& form) {
 }
 
 void cmd_DateOK_Click(frmWeather& form) {
-    std::string text(Trimmed(form.txtDate.Text));
-    const JulianValue day = ValidateDate(TheScreen(), text);
+    const JulianValue day = TypedDay(form.txtDate);
     if (day > State.TodayJulian - 1 || day < FirstEntryDay()) {
         TheScreen().Tell("Select a date BETWEEN " + JulianToShortText(FirstEntryDay()) + " and " +
                              JulianToShortText(State.TodayJulian),
