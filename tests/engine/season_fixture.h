@@ -20,9 +20,6 @@ inline WeatherCoefficients SteadyWeather(const WeatherDay& day) {
     return coefficients;
 }
 
-/// Frost without any evapotranspiration: only events change a field.
-inline WeatherDay Frost() { return AWeatherDay().Temperature(-5, 3).ReferenceET(0); }
-
 constexpr JulianValue Planting = JulianFromDate(5, 1, 2003);  ///< that of `AField`; day 121 of its year
 
 /// Seasons in memory. Where no weather was measured every day is that of `DefaultWeather`.
@@ -41,15 +38,12 @@ struct SeasonTest : DirectoryTest {
     }
 };
 
-/// Soil that can't fill up, dry at planting: a field's water is the sum of what came.
-inline AField BottomlessField() { return AField().Capacity(1000).Content(0); }
-
 /// The field in row 1 and measured weather of 2003, 6 mm of reference evapotranspiration a day.
 struct UpdateFieldTest : SeasonTest {
     /// Stores the field, and measured weather through `lastReal`.
     void Plant(const AField& field, JulianValue lastReal) {
         field.StoreAt(1);
-        if (lastReal >= Planting) AWeatherYear("06", 2003).Through(lastReal - JulianFromDate(12, 31, 2002)).Store();
+        AWeatherYear("06", 2003).Through(lastReal - JulianFromDate(12, 31, 2002)).Store();
     }
 
     RunOutcome Update(JulianValue lastReal) {
@@ -58,16 +52,6 @@ struct UpdateFieldTest : SeasonTest {
         State.WeatherCoeff = DefaultWeather;
         SelectField(User, 1);
         return UpdateField(User);
-    }
-
-    /// The user sets the depletion on `day`.
-    static void Reset(JulianValue day, float available) {
-        FieldFile file = LoadFieldFile(1);
-        file.Days.at(static_cast<std::size_t>(day - file.Header().PlantDay)).Available = available;
-        StoreFieldFile(1, file);
-        State.Updates[1] = day;
-        ScriptAsk nobody;
-        SaveFieldRow(nobody, 1);
     }
 
     std::map<std::string, std::string> Files() const {
@@ -80,8 +64,7 @@ struct UpdateFieldTest : SeasonTest {
 };
 
 /// A whole season with all that a field meets: rain on growing roots, irrigation, leaching, snapshots.
-inline AField LivelyField() {
-    AField field;
+inline AField LivelyField(AField field = {}) {
     field.Content({140, 90, 60, 60}).Irrigation(Planting + 40, 30);
     for (const int day : {4, 5, 6, 15, 16, 25, 26, 33, 60}) field.Rain(Planting + day, 25);
     return field;
