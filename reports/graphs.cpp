@@ -72,14 +72,15 @@ void Draw(frmFieldGraph& panel, const GraphRow& row) {
 
 /// Shows the rows from `FirstShown` to `LastShown` in panels, which are made as they are needed.
 void DrawAll(frmGraphs& form) {
-    const std::size_t shown = static_cast<std::size_t>(form.LastShown - form.FirstShown + 1);
+    const auto first = static_cast<std::size_t>(form.FirstShown) - 1;
+    const std::size_t shown = static_cast<std::size_t>(form.LastShown) - first;
     while (form.Panels.size() < shown) {
         form.Panels.push_back(std::make_shared<frmFieldGraph>());
         form.Children.push_back(std::make_shared<FormTable>(TableOf(*form.Panels.back())));
     }
     for (std::size_t i = 0; i < form.Panels.size(); ++i) {
         form.Children[i]->Shown = form.Children[i]->Loaded = i < shown;
-        if (i < shown) Draw(*form.Panels[i], form.Rows[static_cast<std::size_t>(form.FirstShown) - 1 + i]);
+        if (i < shown) Draw(*form.Panels[i], form.Rows[first + i]);
     }
     TheScreen().Present(FormOf(FormName::frmGraphs));
 }

@@ -144,8 +144,9 @@ bool LeaveChecksPass(FormName name) {
 bool MoveFocus(FormTable& form, const ControlEntry* next) {
     ControlEntry* const from = form.Focused == nullptr ? nullptr : form.Find(*form.Focused);
     if (next != nullptr && &next->Shared() == form.Focused) return true;
-    if (from != nullptr && from->Shared().Visible && !(next != nullptr && next->IsExit))
-        if (!RunEvent(form, *from, Event::Leave)) return false;
+    const bool toExit = next != nullptr && next->IsExit;
+    const bool leaves = from != nullptr && from->Shared().Visible && !toExit;
+    if (leaves && !RunEvent(form, *from, Event::Leave)) return false;
     form.Focused = next == nullptr ? nullptr : &next->Shared();
     return true;
 }
