@@ -16,6 +16,7 @@ using testing::SizeIs;
 TEST_F(UpdateFieldTest, FromAnyResetThatChangesNothingMakesTheSameFile) {
     Plant(LivelyField(), Planting + 50);
     Update(Planting + 50);
+    EXPECT_THAT(Stored().Days, SizeIs(161));
     const std::string file = Directory.Raw("field1.dat");
     const StatRecord row = State.Stat[1];
     for (JulianValue day = Planting; day < Planting + 50; ++day) {
@@ -56,6 +57,7 @@ TEST_F(UpdateFieldTest, AsksToFillAHoleInTheWeatherAndElseStopsTheDayBefore) {
         User.Answers = {true, false};
         EXPECT_EQ(Update(last), RunOutcome::Done);
         EXPECT_EQ(Stored().Days[11].EtrSum, 9 * 6 + 2 * 2);
+        EXPECT_EQ(Stored().Hay.NextCutDay, isHay ? Planting + 31 : 0);  // the first day at 490 degree days, 16 a day
         const DayRecord lastGood = Stored().Days[9];
         EXPECT_EQ(Update(last), RunOutcome::StoppedByUser);
         const ScriptAsk::Question question{"Weather for 05-11-03 needed.  Do you want to use default weather?",
