@@ -1,5 +1,6 @@
 #include "reports/harvested.h"
 
+#include "reports/report_roads.h"
 #include "tests/reports/expected_text.h"
 #include "tests/reports/report_forms.h"
 
@@ -32,10 +33,7 @@ TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
                 ElementsAre(ListItem{"Meadow  -  @Alfalfa", 0}, ListItem{"NORTH Ñ  -  Sugar Beet", 0}));
     Choosing("cmd_OK");
     At user(FormName::frmSelectHarvested);
-    user.Pick("ComboDField", 1);
-    EXPECT_EQ(Screen.StatusBar1.Panels[0], "Field=2  ID=NORTH Ñ");
-    EXPECT_THAT(Screen.txtData.Text, HasSubstr("interval = 01.0 feet\nSoil Water Capacity\n"));
-    user.Click("cmdOK");
+    user.Pick("ComboDField", 1).Click("cmdOK");
 
     // The report of the field when it stood, with all four leachings and without predictions.
     std::string expected = ExpectedText("field_crop_zones_english");
@@ -50,22 +48,43 @@ TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
     Choosing("cmd_cancel");
     user.Click("cmdOK").Click("cmdCancel");
     EXPECT_THAT(User.Printed, SizeIs(1));
-    EXPECT_FALSE(IsLoaded(FormName::frmSelectHarvested));
-    EXPECT_TRUE(State.IsHay);
     EXPECT_EQ(State.Hay.FieldId.Text(), "IN WORK");
 }
 
-TEST_F(HarvestedFields, ThatAreDamagedAreNotReported) {
-    Directory.Put("Meadow    _010903_ 1.dat", std::string(100, '@'));
-    At(FormName::frmSelectHarvested).Pick("ComboDField", 1).Pick("ComboDField", 0).Click("cmdOK");
-    EXPECT_THAT(User.Failures, ElementsAre(HasSubstr("Meadow    _010903_ 1.dat")));
-    EXPECT_EQ(User.LastSaid(), "Veraqua: Select a field from the drop-down list to your right.");
-}
+struct ReportDialog : ReportForms {
+    std::vector<std::string> OpenedWith;  ///< names in the box, each time it opened
 
-TEST_F(ReportForms, WithoutHarvestedFieldsTheFormClosesAtOnce) {
-    Show(FormName::frmSelectHarvested);
-    EXPECT_EQ(User.LastSaid(), "Veraqua: No deleted fields found on disk!");
-    EXPECT_FALSE(IsLoaded(FormName::frmSelectHarvested));
+    /// What the user does in the dialog from now on.
+    void InDialog(std::function<void(At&)> doing) {
+        User.WhenShown(FormName::frmReportOptions, [this, doing = std::move(doing)] {
+            EXPECT_TRUE(State.ReportCancelled);
+            OpenedWith.push_back(The<frmReportOptions>().Txt_filename.Text);
+            At user(FormName::frmReportOptions);
+            doing(user);
+        });
+    }
+};
+
+TEST_F(ReportDialog, KeepsTheNameThatEachReportUsedLast) {
+    Stored(1, SmallCrop(), 43, MayDay(9));
+    State.CurrentField = 1;
+    const std::string data = Directory.Path();
+
+    InDialog([](At& user) { user.Type("Txt_filename", "July.txt").Click("cmd_OK"); });
+    SaveScheduleByDialog();
+    InDialog([](At& user) {
+        user.Type("Txt_filename", "stat.dat").Click("cmd_OK");  // refused: the dialog stays
+        user.Type("Txt_filename", "north.txt").Press("Txt_filename", Event::EnterKey);
+    });
+    RunFieldReport("disk");
+    InDialog([](At& user) { user.Click("cmd_OK"); });
+    SaveScheduleByDialog();
+    RunFieldReport("disk");
+
+    EXPECT_THAT(OpenedWith,
+                ElementsAre(data + "Predict.txt", data + "Field.txt", data + "July.txt", data + "north.txt"));
+    EXPECT_EQ(User.LastSaid(), "File Saved: Your Field Report was saved to: " + data + "north.txt");
+    EXPECT_TRUE(Directory.Raw("north.txt").starts_with(" FIELD DATA as of 05-04-03"));
 }
 
 }  // namespace
