@@ -1,36 +1,41 @@
 #include "shell/first_start.h"
 
+#include <map>
+#include <set>
+
 #include <gmock/gmock.h>
 
+#include "catch_up/field_updates.h"
 #include "core/crop_table.h"
+#include "core/directory.h"
+#include "core/field_file.h"
 #include "core/state.h"
 #include "data/embedded.h"
-#include "tests/support/builders.h"
 #include "tests/support/data_directory.h"
 #include "tests/support/failure.h"
 #include "weather/default_weather.h"
+#include "weather/weather_file.h"
 
 namespace veraqua {
-
 namespace {
 
+using testing::AllOf;
+using testing::Each;
 using testing::ElementsAre;
+using testing::Ge;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Le;
 
 using FirstStart = DirectoryTest;
 
 TEST_F(FirstStart, MakesTheShippedFilesAndAnEmptyFieldDirectory) {
     const InitOutcome outcome = MakeDataDirectory(User, false);
-    EXPECT_FALSE(outcome.Refused);
     EXPECT_THAT(outcome.Created, ElementsAre("VERAGUIDE.doc", "crop.dat", "stat.dat", "updates.dat", "weathdef.dat"));
     EXPECT_EQ(files::Names(), outcome.Created);
     for (const char* name : {"VERAGUIDE.doc", "crop.dat", "weathdef.dat"})
         EXPECT_EQ(Directory.Raw(name), EmbeddedFile(name)) << name;
-    EXPECT_THAT(Directory.Raw("VERAGUIDE.doc"), testing::StartsWith("{\\rtf1\\ansi"));
     EXPECT_EQ(Directory.Raw("stat.dat"), std::string(4100, '\0'));
-    EXPECT_EQ(State.FieldCount, 0);
-    EXPECT_EQ(State.TodayJulian, User.Today);
 }
 
 TEST_F(FirstStart, LeavesAloneWhatIsThere) {
@@ -38,7 +43,6 @@ TEST_F(FirstStart, LeavesAloneWhatIsThere) {
     EXPECT_THAT(MakeDataDirectory(User, false).Created,
                 ElementsAre("VERAGUIDE.doc", "stat.dat", "updates.dat", "weathdef.dat"));
     EXPECT_THAT(Directory.Raw("CROP.DAT"), HasSubstr("MY CROP"));
-    EXPECT_FALSE(Directory.Has("crop.dat"));
     EXPECT_THAT(MakeDataDirectory(User, false).Created, IsEmpty());
 }
 
@@ -50,31 +54,78 @@ TEST_F(FirstStart, ACropTableWithoutTheSamplesCropsLeavesDirectoryAndStateAsThey
     EXPECT_THAT(State.DefaultStations, IsEmpty());
 }
 
-TEST_F(FirstStart, WeatherThatEndsBeforeTheSamplesFieldsWerePlantedRefusesIt) {
-    AWeatherYear("06", 2002).Through(10).Store();  // a user's own: it stays
-    User.Today = JulianFromDate(7, 15, 2002);
-    EXPECT_TRUE(MakeDataDirectory(User, true).Refused);
-    EXPECT_THAT(User.Texts(), testing::Contains(HasSubstr("No new predictions-weather data needs updating")));
-    EXPECT_THAT(files::Names(), ElementsAre("weather06.02"));
-}
-
 TEST_F(FirstStart, ShippedTablesHoldAllCropsStationsAndRegions) {
     MakeDataDirectory(User, false);
     const std::vector<Crop> crops = ReadCropTable(User);
     EXPECT_EQ(std::ranges::count_if(crops, &Crop::IsHay), 4);
     EXPECT_EQ(crops.size(), 28U);
     EXPECT_EQ(State.DefaultStations.size(), 33U);
+}
 
-    // ReferenceET a0 of each block, mm per day, as it stands in the file.
-    const std::vector<std::pair<std::string_view, float>> regions{{"TELMORAN", 4.70147F}, {"SORA VALLEY", 4.29296F},
-                                                                  {"BRESKIN", 4.11854F},  {"DUNMER", 4.58877F},
-                                                                  {"KALVIS", 2.12269F},   {"TORV", 4.03579F}};
-    for (const auto& [region, mean] : regions) {
-        ASSERT_TRUE(LoadWeatherCoefficients(User, region)) << region;
-        EXPECT_EQ(State.WeatherCoeff[7][0], mean) << region;
+struct SampleOnADay : DirectoryTest, testing::WithParamInterface<Date> {
+    SampleOnADay() { User.Today = JulianFromDate(GetParam().Month, GetParam().Day, GetParam().Year); }
+
+    static std::map<std::string, std::string> AllFiles() {
+        std::map<std::string, std::string> contents;
+        for (const std::string& name : files::Names()) contents[name] = *files::Read(name);
+        return contents;
     }
+};
+
+TEST_P(SampleOnADay, IsAFarmInFullSwing) {
+    MakeDataDirectory(User, true);
+    std::set<std::string> ids;
+    int dated = 0;
+    int overMad = 0;
+    int cutHay = 0;
+    for (const int row : RowsInUse()) {
+        const StatRecord& record = State.Stat[row];
+        const FieldFile field = LoadFieldFile(row);
+        ids.insert(record.FieldId.Text());
+        dated += record.NextIrrDay > 0 && record.NextIrrAmount > 0;
+        overMad += record.LastDay == User.Today - 1 && record.Depletion >= record.MadNow;
+        cutHay += !field.Lists.Cuttings.empty();
+        EXPECT_LE(record.Depletion, 95);
+        const auto inSeason =
+            testing::Field(&EventRecord::Day, AllOf(Ge(field.Header().PlantDay + 1), Le(User.Today - 1)));
+        for (const auto* events : {&field.Lists.Rain, &field.Lists.Irrigation, &field.Lists.Cuttings}) {
+            EXPECT_THAT(*events, Each(inSeason));
+            EXPECT_TRUE(std::ranges::is_sorted(*events, std::ranges::less_equal{}, &EventRecord::Day));
+        }
+    }
+    EXPECT_THAT(ids.size(), AllOf(Ge(10U), Le(13U)));
+    EXPECT_GT(2 * dated, State.FieldCount);
+    EXPECT_GE(overMad, 1);
+    EXPECT_GE(cutHay, 2);
+    EXPECT_TRUE(User.Told.empty() && User.Asked.empty());
+}
+
+TEST_P(SampleOnADay, IsUpToDateAndTheSameToTheByteElsewhere) {
+    MakeDataDirectory(User, true);
+    const auto first = AllFiles();
+    EXPECT_THAT(UpdateRows(User, RowsInUse()), Each(UpdateStatus::Done));
+    EXPECT_EQ(AllFiles(), first);
+    files::Close();
+    const TestDirectory elsewhere;
+    MakeDataDirectory(User, true);
+    EXPECT_EQ(AllFiles(), first);
+}
+
+// A leap day, turns of the year, a day on which only neglect lets a field go over its MAD, one when hay of the winter
+// meets hay of the summer.
+INSTANTIATE_TEST_SUITE_P(Days, SampleOnADay,
+                         testing::Values(Date{7, 15, 2026}, Date{1, 1, 2026}, Date{2, 29, 2028}, Date{4, 24, 2027},
+                                         Date{5, 20, 2027}, Date{12, 31, 2100}));
+
+TEST_F(FirstStart, AMeasuredYearStandsForTheYearsOfTheSample) {
+    User.Today = JulianFromDate(3, 2, 2028);
+    MakeDataDirectory(User, true);
+    // Days 59 and 60 of 2002, 28 February and 1 March, had 22.50 and 18.28 degrees C at Davis.
+    const WeatherFile weather("06", 2028);
+    EXPECT_EQ(weather.Day(59).TempMax, 22.5F);
+    EXPECT_EQ(weather.Day(60).Source.Text(), "default");  // 29 February
+    EXPECT_EQ(weather.Day(61).TempMax, 18.28F);
 }
 
 }  // namespace
-
 }  // namespace veraqua

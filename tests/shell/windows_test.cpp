@@ -8,7 +8,6 @@
 #include "shell/configuration.h"
 #include "shell/data_path.h"
 #include "shell/forms.h"
-#include "shell/help.h"
 #include "shell/main_menu.h"
 #include "tests/support/script_screen.h"
 #include "weather/forms/forms.h"
@@ -17,7 +16,6 @@
 namespace veraqua {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 /// The program on a computer whose user has the data home of the test's directory; no data directory is open yet.
@@ -49,9 +47,6 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     EXPECT_EQ(State.BaseUrl, "http://other.example/data/");
     const auto& panels = The<frmVeraqua>().StatusBar1.Panels;
     EXPECT_EQ(panels[0] + panels[1], " Veraqua Ver 1.17   Today is 07-15-2003");
-    At(FormName::frmVeraqua).Click("cmdWeather");
-    At(FormName::frmWeather).Click("Cmd_Exit");
-    EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown);
     Show(FormName::frmWeather);
     EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
     EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
@@ -65,7 +60,6 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
         EXPECT_EQ(form.lblMsg.Caption, "The file WEATHDEF.DAT was not found at the \ndefault location " +
                                            Directory.Path() + "home/veraqua/ or " + Directory.Path() +
                                            "home/Veraqua/\n\nPlease find it below or exit.  Thank You. ");
-        EXPECT_FALSE(form.Dir1.Visible || form.cmd_OK.Visible);
         At(FormName::frmPath).Click("cmd_Find");
         form.Dir1.Path = Directory.Path();
         At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
@@ -76,7 +70,6 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
     });
     Show(FormName::frmVeraqua);
     EXPECT_EQ(files::DirectoryPath(), other);
-    EXPECT_TRUE(IsLoaded(FormName::frmVeraqua) && !IsLoaded(FormName::frmPath));
 }
 
 TEST_F(ShellTest, MakesADirectoryForANewUserOrEnds) {
@@ -127,21 +120,9 @@ TEST_F(Options, PutADateInThePlaceOfTheComputers) {
 }
 
 TEST_F(Options, SetTheUnitsAndTheDisplay) {
-    At(FormName::frmConfig).Click("mnuUnits").Click("optMetric").Click("mnuDisplay");
-    EXPECT_EQ(Form.lstDisplay.Selected()->Text, "12");
-    EXPECT_FALSE(State.EnglishUnits || Form.optMetric.Visible);
-    At(FormName::frmConfig).Pick("lstDisplay", 7).Close();
+    At(FormName::frmConfig).Click("mnuUnits").Click("optMetric").Click("mnuDisplay").Pick("lstDisplay", 7).Close();
+    EXPECT_FALSE(State.EnglishUnits);
     EXPECT_EQ(State.DisplayDays, 16);
-    EXPECT_TRUE(FormOf(FormName::frmVeraqua).Shown && !IsLoaded(FormName::frmConfig));
-}
-
-TEST_F(Options, TheManualOpensInTheSpellingThatItHas) {
-    User.WhenShown(FormName::frmHelp, [] { At(FormName::frmHelp).Click("cmd_manual"); });
-    ShowModal(FormName::frmHelp);
-    Directory.Put("home/veraqua/veraguide.DOC", "text");
-    ShowModal(FormName::frmHelp);
-    EXPECT_THAT(User.OpenedDocuments, ElementsAre(Directory.Path() + "home/veraqua/veraguide.DOC"));
-    EXPECT_THAT(User.Texts(), ElementsAre("Can't find VERAQUA USER'S MANUAL"));
 }
 
 }  // namespace
