@@ -67,6 +67,7 @@ int RunFieldHarvest(Session& session, int row) {
     At(FormName::frmField).Click("mnuDelete");
     const std::string backup = The<frmField>().BackupName;
     if (backup.empty()) return ExitRefused;
+    LoadFieldDirectory();  // the workbench's list shows IDs in capitals
     const std::vector<int> rows = RowsInUse();
     session.Print({{"backup", backup}, {"fields", JsonOfRows(rows)}}, TextOfRows(rows));
     return ExitDone;

@@ -1,5 +1,7 @@
 #include "cli/commands.h"
 #include "screen/headless.h"
+#include "workbench/cuttings.h"
+#include "workbench/water_events.h"
 
 namespace veraqua {
 
@@ -23,8 +25,8 @@ constexpr EventControls CutControls{FormName::frmCuts, "mnuCuts", "txtCutAdd", "
 
 const EventControls& ControlsOf(Water kind) { return kind == Water::Rain ? RainControls : IrrigationControls; }
 
-/// Opens the form of the event from the workbench, does `doing` on it, and prints the row. What the user was told
-/// meanwhile is why it was not done.
+/// Opens the form of the event from the workbench, does `doing` on it, and prints the row once the event is recorded.
+/// What the user was told meanwhile is why it was not recorded, or not run.
 template <class Doing>
 int AtEventForm(Session& session, int row, const EventControls& controls, Doing doing) {
     if (!TakeUpFieldToRun(session, row)) return ExitRefused;
@@ -32,7 +34,9 @@ int AtEventForm(Session& session, int row, const EventControls& controls, Doing 
     At(FormName::frmField).Click(controls.Menu);
     if (!IsLoaded(controls.Form)) return ExitRefused;
     doing(At(controls.Form));
-    return session.Outside.Objections() > before ? ExitRefused : PrintRow(session, row);
+    const bool done = session.Outside.Objections() == before;
+    if (done || The<frmAddWater>().Recorded || The<frmCuts>().Recorded) PrintRow(session, row);
+    return done ? ExitDone : ExitRefused;
 }
 
 int Add(Session& session, int row, const EventControls& controls, const std::string& date, const std::string& amount) {

@@ -130,12 +130,15 @@ class Entry {
     }
 
     void AtZones() {
+        const int atOpening = session_.Outside.Objections();
         At form(FormName::frmCap);
         if (options_.Interval) form.Type("txtDepth", *options_.Interval).Click("cmdDepth");
         for (std::size_t i = 0; i < options_.Zones.size() && !form.Held(); ++i) {
             const ControlEntry* zone = FormOf(FormName::frmCap).Find(Nth("txtcap", i));
             if (zone == nullptr || !zone->Shared().Visible) {
-                if (!Stopped()) Refuse(fmt::format("The interval gives {} zones, not {}.", i, options_.Zones.size()));
+                // An interval that was refused has been told of.
+                if (session_.Outside.Objections() == atOpening)
+                    Refuse(fmt::format("The interval gives {} zones, not {}.", i, options_.Zones.size()));
                 return;
             }
             const std::vector<std::string> parts = Parts(options_.Zones[i]);
@@ -154,8 +157,14 @@ class Entry {
 int RunFieldNew(Session& session, const NewFieldOptions& options) {
     if (!session.OpenData(files::Access::Write)) return ExitRefused;
     if (options.CopySoil && !IsField(session, *options.CopySoil)) return ExitRefused;
+    // Where the run fails, the default weather that was taken for it goes as well.
+    files::ChangeSet changes;
     const std::optional<int> row = Entry(session, options).Make();
-    return row ? PrintRow(session, *row) : ExitRefused;
+    changes.Commit();
+    if (!row) return ExitRefused;
+    PrintRow(session, *row);
+    const std::optional<RunOutcome> outcome = The<frmLoadField>().FirstRun;
+    return outcome == RunOutcome::Done || outcome == RunOutcome::NothingToUpdate ? ExitDone : ExitRefused;
 }
 
 }  // namespace veraqua

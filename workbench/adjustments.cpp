@@ -13,6 +13,7 @@
 #include "engine/season_run.h"
 #include "engine/soil_water.h"
 #include "reports/field_days.h"
+#include "reports/stored_field.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/change_line.h"
@@ -201,7 +202,7 @@ void cmd_Reset_Click(frmField& form) {
     State.Hay.NextCutDay = 0;
 
     files::ChangeSet changes;
-    CreateField(TheScreen(), soil);
+    ComputedFrom(FieldFileName(State.CurrentField), [&] { CreateField(TheScreen(), soil); });
     UpdateField(TheScreen());
     changes.Commit();
     TheScreen().Tell("Depletion has been reset");

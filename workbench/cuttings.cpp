@@ -4,9 +4,11 @@
 
 #include <fmt/format.h>
 
+#include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
 #include "reports/prediction_text.h"
+#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -42,7 +44,7 @@ void Save(frmCuts& form, const std::vector<EventRecord>& cuts) {
 /// Applies a cutting, nothing to remove it, and saves what has changed.
 void Apply(frmCuts& form, JulianValue day, std::optional<double> number) {
     std::vector<EventRecord> cuts = form.CutEvents;
-    switch (ManageEvents(cuts, day, number)) {
+    switch (ComputedFrom(FieldFileName(State.CurrentField), [&] { return ManageEvents(cuts, day, number); })) {
         case ListChange::Changed:
             Save(form, cuts);
             form.Recorded = true;

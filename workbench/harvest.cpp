@@ -96,6 +96,13 @@ std::string_view PutBack(const std::string& backupName, const FieldFile& file, i
                   : "\nIts depletion date was not kept. It has to be run from planting.";
 }
 
+/// Behind the last field; where there is no room, in the place of one whose file got lost. 0 where all rows are in use.
+int RowToRestore() {
+    const std::vector<int> rows = RowsInUse();
+    const int last = rows.empty() ? 0 : rows.back();
+    return last < MaxFields ? last + 1 : LowestFreeRow();
+}
+
 }  // namespace
 
 std::string HarvestField(int row) {
@@ -129,7 +136,7 @@ std::optional<int> RestoreField(const std::string& backupName) {
     if (!IsBackup(backupName)) return refuse(backupName + " is no harvested field in the data directory.");
     const FieldFile file = LoadBackup(backupName);
     const std::string id = file.Header().FieldId.Text();
-    const int row = LowestFreeRow();
+    const int row = RowToRestore();
     if (row == 0) return refuse("Veraqua keeps at most 100 fields.");
     if (IsIdInUse(file.Header().FieldId))
         return refuse("A field in use has the Field ID Code " + id + ". Harvest it before you restore this one.",

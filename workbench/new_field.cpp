@@ -182,6 +182,8 @@ bool IdIsTaken(std::string_view typed) {
     return std::ranges::any_of(rows, [&](int row) { return Comparable(State.Stat[row].FieldId) == compared; });
 }
 
+bool IsControlCharacter(char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }
+
 bool IdMayBeUsed(frmLoadField& form) {
     const std::string& typed = form.txtFieldID.Text;
     const auto refuse = [&form](std::string_view text, std::string_view title) {
@@ -190,7 +192,7 @@ bool IdMayBeUsed(frmLoadField& form) {
         return false;
     };
     if (Trimmed(typed).empty()) return refuse("Please enter a Field ID Code!", "Missing Field ID");
-    if (!Latin1FromUtf8(typed))
+    if (!Latin1FromUtf8(typed) || std::ranges::any_of(typed, IsControlCharacter))
         return refuse("The Field ID Code has a character that no field file can hold.", InputError);
     if (IdIsTaken(typed))
         return refuse("You have already used this Field ID Code. Please select another!", "Duplicate Field ID");
@@ -291,8 +293,9 @@ void cmd_OK_Click(frmLoadField& form) {
 void StartField(const SoilProfile& soil, FormName soilForm) {
     files::ChangeSet asOne;
     CreateField(TheScreen(), soil);
-    UpdateField(TheScreen());
+    const RunOutcome outcome = UpdateField(TheScreen());
     asOne.Commit();
+    The<frmLoadField>().FirstRun = outcome;
     Unload(FormName::frmLoadField);
     Unload(soilForm);
     FieldInfo(The<frmField>());

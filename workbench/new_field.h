@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "engine/season_run.h"
 #include "screen/form.h"
 #include "workbench/soil_copy.h"
 
@@ -58,6 +61,7 @@ struct frmLoadField : Form {
     bool VariablePicked = false;  ///< soil format that was picked on the workbench
     float CropRootMax = 0;        ///< deepest root depth of the crop, m
     CopiedSoil Copied;
+    std::optional<RunOutcome> FirstRun;  ///< what came of the first run, once the field has been made
 };
 
 FormTable TableOf(frmLoadField& form);

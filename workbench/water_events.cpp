@@ -4,10 +4,12 @@
 
 #include <fmt/format.h>
 
+#include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
 #include "core/units.h"
 #include "reports/prediction_text.h"
+#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -115,7 +117,9 @@ void Apply(frmAddWater& form, const Side& side, JulianValue day, std::optional<d
     FieldLists lists;
     lists.Rain = form.RainEvents;
     lists.Irrigation = form.IrrEvents;
-    switch (ManageEvents(&side.Events == &form.RainEvents ? lists.Rain : lists.Irrigation, day, mm)) {
+    switch (ComputedFrom(FieldFileName(State.CurrentField), [&] {
+        return ManageEvents(&side.Events == &form.RainEvents ? lists.Rain : lists.Irrigation, day, mm);
+    })) {
         case ListChange::Changed:
             Save(form, std::move(lists));
             form.Recorded = true;
