@@ -1,7 +1,7 @@
+#include "reports/graphs.h"
 #include "tests/workbench/field_menu_fixture.h"
 
 namespace veraqua {
-
 namespace {
 
 TEST_F(FieldMenuTest, WhatNeedsAFieldSaysSoWithoutOne) {
@@ -22,34 +22,12 @@ TEST_F(FieldMenuTest, WhatNeedsAFieldSaysSoWithoutOne) {
     EXPECT_EQ(User.Presented, std::vector{FormName::frmField});
 }
 
-TEST_F(FieldMenuTest, EachItemOpensItsWindowOnTheFieldSelected) {
-    Plant(AField().Days(IntoTheForecast), 1);
-    Plant(AField().Hay().Days(IntoTheForecast), 2);
-    const auto opened = [&](int position, const char* item) {
-        Show(FormName::frmField);
-        Select(position);
-        Menu.Click(item);
-        return User.Presented.back();
-    };
-    EXPECT_EQ(opened(0, "mnuFieldSummary"), FormName::frmFieldData);
-    EXPECT_EQ(opened(0, "mnuSeasonChart"), FormName::frmSeasonChart);
-    EXPECT_EQ(opened(0, "m_rpt_display"), FormName::frmFieldHistory);
-    EXPECT_EQ(opened(1, "m_rpt_display"), FormName::frmHayFieldHistory);
-    EXPECT_EQ(opened(0, "mnuAdd"), FormName::frmAddWater);
-    EXPECT_EQ(opened(1, "mnuCuts"), FormName::frmCuts);
-    EXPECT_EQ(opened(0, "mnuCuts"), FormName::frmField);
-    EXPECT_EQ(User.LastSaid(), "Pick Another Option: This option only applies to Alfalfa fields");
-    EXPECT_EQ(opened(0, "MnuPred"), FormName::frmFieldData);
-}
-
 TEST_F(FieldMenuTest, AFieldPickedIsShownAndRunOnlyIfItStandsBehindYesterday) {
     Plant(AField().Id("west").Days(ThroughYesterday), 1);
     Plant(AField().Hay().Cutting(Planting + 40, 1).Days(ThroughYesterday), 2, Today - 2);
     const auto before = Files();
     Select(0);
     EXPECT_EQ(Files(), before);  // the upper case of its ID is in memory only
-    EXPECT_EQ(Form.StatusBar1.Panels[0], "Field=MAIZE GRAIN  ID=WEST ");
-    EXPECT_TRUE(Form.lbl_more2.Visible && !Form.cmd_Summary.Visible && !Form.ComboField.Visible);
     Select(1);
     EXPECT_EQ(State.Stat[2].LastDay, Today - 1);
     EXPECT_EQ(Form.lbl_ID.Caption, "Field ID is:  CREEK");
@@ -82,18 +60,6 @@ TEST_F(FieldMenuTest, RowsWithAGapAreListedByTheirNumberAndANewFieldTakesTheGap)
     EXPECT_EQ(State.CurrentField, 0);
 }
 
-TEST_F(FieldMenuTest, ANewFieldWantsACropAndASoilFormat) {
-    Menu.Click("mnuNew").Click("cmd_OK");
-    EXPECT_EQ(User.LastSaid(), "Missing Crop: Please select a crop to plant");
-    Menu.Pick("comboCrops", 24).Click("cmd_OK");
-    EXPECT_EQ(User.LastSaid(), "Missing Soil: Please select a soils format");
-    Menu.Pick("Combo_Soils", 1).Click("cmd_OK");
-    EXPECT_TRUE(State.VariableSoil);
-    EXPECT_EQ(State.Stat[1].CropName.Text(), "@ALFALFA");
-    EXPECT_EQ(User.FocusedControls.back(), "frmLoadField.txtFieldID");
-    EXPECT_FALSE(FormOf(FormName::frmField).Shown);
-}
-
 TEST_F(FieldMenuTest, APickForTheHarvestThatIsGivenUpHarvestsNothing) {
     Plant(AField().Days(ThroughYesterday), 1);
     for (const char* way : {"cmd_Cancel", "Esc", "mnuNew", "mnuSelect"}) {
@@ -107,6 +73,25 @@ TEST_F(FieldMenuTest, APickForTheHarvestThatIsGivenUpHarvestsNothing) {
     EXPECT_EQ(State.CurrentField, 0);
 }
 
-}  // namespace
+TEST_F(FieldMenuTest, ABarTurnsYellowAboveTheMadAndRedAboveItByAFifth) {
+    int row = 0;
+    for (const auto& [id, content] : std::vector<std::pair<const char*, std::int16_t>>{
+             {"FULL", 150}, {"AT", 70}, {"OVER", 67}, {"ALARM", 54}, {"EMPTY", -1}})  // of 140: 50, 52, 61 and 101 %
+        Plant(AField().Id(id).Content(content).Days(ThroughYesterday), ++row);
+    const frmGraphs& graphs = The<frmGraphs>();
+    State.CurrentField = 2;
+    Menu.Click("m_displays");
+    EXPECT_EQ(State.CurrentField, 2);
+    EXPECT_EQ(graphs.Panels[0]->PBar.Value, 100);
+    EXPECT_EQ(graphs.Panels[4]->PBar.Value, 0);
+    EXPECT_EQ(graphs.Panels[2]->lbl_WaterContent.Caption, "47.9%");
+    EXPECT_EQ(graphs.Panels[1]->Background, std::nullopt);
+    EXPECT_EQ(graphs.Panels[2]->Background, colours::Yellow);
+    EXPECT_EQ(graphs.Panels[3]->Background, colours::Red);
+    At(*graphs.Children[3]).Click("cmd_Select");
+    EXPECT_EQ(State.CurrentField, 4);
+    EXPECT_EQ(Form.lbl_ID.Caption, "Field ID is:  ALARM");
+}
 
+}  // namespace
 }  // namespace veraqua

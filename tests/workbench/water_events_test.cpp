@@ -1,10 +1,9 @@
 #include "workbench/water_events.h"
 
 #include "tests/workbench/field_menu_fixture.h"
-#include "workbench/event_list.h"
+#include "workbench/cuttings.h"
 
 namespace veraqua {
-
 namespace {
 
 using testing::ElementsAre;
@@ -38,23 +37,16 @@ struct WaterTest : FieldMenuTest {
 TEST_F(WaterTest, EachEntryReachesTheFileWithTheRunThatItCauses) {
     Open(AField());
     const StatRecord before = State.Stat[1];
-    const std::string predicted = Water.txtIrrDate.Text;
     Rain("7/3/2003", "1.00");
     EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
     EXPECT_EQ(Water.ListRain.Items.at(0).Text, "07-03-03   ...   1.0 inches");
-    EXPECT_EQ(Water.txtRAIN.Text, "1.0 inches");
-    EXPECT_EQ(Water.txtRainDate.Text, "07-03-2003");
-
     Entry.Type("txtIrrAdd", "7 10 2003").Type("txtIrrigation", "4").Press("txtIrrigation", Event::EnterKey);
     EXPECT_THAT(Stored().Irrigation, ElementsAre(EventRecord{July(10), 102}));
     EXPECT_NE(State.Stat[1].Depletion, before.Depletion);
     const StatRecord row = State.Stat[1];
     LoadFieldDirectory();
     EXPECT_EQ(State.Stat[1], row);
-    EXPECT_NE(Water.txtIrrDate.Text, predicted);
     EXPECT_THAT(Water.lblChange.Caption, HasSubstr("Next irrigation moves from "));
-
-    User.Told.clear();
     Rain("07-03-2003", "0.98");  // 24.9 mm, which are 25
     EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
     Entry.Click("cmdReturn");
@@ -64,36 +56,28 @@ TEST_F(WaterTest, EachEntryReachesTheFileWithTheRunThatItCauses) {
 
 TEST_F(WaterTest, RefusesDaysAndAmounts) {
     Open(AField());
+    const std::string planted =
+        "Invalid Water Date: Use a Date after 05-01-03.  Dates on or prior to planting date are not permitted.";
     struct Case {
         const char* Date;
         const char* Amount;
         JulianValue DepletionDay, DriedOut;
-        const char* Says;
-        const char* Focus;
+        std::string Says;
+        const char* Focus = "txtRainDate";
     };
     const Case cases[] = {
-        {"7/3", "1", 0, 0,
-         "Invalid Water Date: Use a Date after 05-01-03.  Dates on or prior to planting date are not "
-         "permitted.",
-         "txtRainDate"},
-        {"5/1/2003", "1", 0, 0,
-         "Invalid Water Date: Use a Date after 05-01-03.  Dates on or prior to planting date are "
-         "not permitted.",
-         "txtRainDate"},
-        {"7/16/2003", "1", 0, 0, "Veraqua: Use a Date before 07-16-03.  Dates into the future are not permitted.",
-         "txtRainDate"},
+        {"7/3", "1", 0, 0, planted},
+        {"5/1/2003", "1", 0, 0, planted},
+        {"7/16/2003", "1", 0, 0, "Veraqua: Use a Date before 07-16-03.  Dates into the future are not permitted."},
         {"7/5/2003", "1", July(5), 0,
-         "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not "
-         "allowed.  Reset 'Depletion' if you want to add water.",
-         "txtRainDate"},
+         "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' if "
+         "you want to add water."},
         {"7/9/2003", "1", July(5), July(9),
-         "Depletion Warning: Your field dried out (99% water depletion) on 07-09-03.  "
-         "Irrigation must be prior to that date.",
-         "txtRainDate"},
+         "Depletion Warning: Your field dried out (99% water depletion) on 07-09-03.  Irrigation must be prior to that "
+         "date."},
         {"7/9/2003", "much", 0, 0, "Missing Data!: Please enter a value for your rainfall amount", "txtRainfall"},
         {"7/9/2003", "0", 0, 0, "Bad Data!: Please enter a value greater than 0.  Use Delete button if deleting values",
-         "txtRainfall"},
-    };
+         "txtRainfall"}};
     for (const Case& c : cases) {
         State.Updates[1] = c.DepletionDay;
         State.DriedOutDay = c.DriedOut;
@@ -106,21 +90,12 @@ TEST_F(WaterTest, RefusesDaysAndAmounts) {
     EXPECT_THAT(User.Failures, ElementsAre(HasSubstr("Amount of the day")));
     EXPECT_THAT(Stored().Rain, IsEmpty());
     EXPECT_THAT(Water.RainEvents, IsEmpty());
-    Entry.Close();
-    EXPECT_EQ(User.LastSaid(), "Veraqua: No irrigation or rainfall data to update");
-    EXPECT_TRUE(FormOf(FormName::frmField).Shown);
-}
-
-TEST_F(WaterTest, OnHayTheEarliestDayThatIsQuotedIsADayLater) {
-    Open(AField().Hay());
-    Rain("5/1/2003", "1");
-    EXPECT_THAT(User.LastSaid(), HasSubstr("Use a Date after 05-02-03."));
-    Rain("5/2/2003", "1");
-    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{Planting + 1, 25}));
 }
 
 TEST_F(WaterTest, DeletesTheSelectedRowOrTheTypedDayAfterAQuestion) {
-    Open(AField().Rain(July(3), 25).Rain(July(5), 10));
+    Open(AField().Hay().Rain(July(3), 25).Rain(July(5), 10));
+    Rain("5/1/2003", "1");
+    EXPECT_THAT(User.LastSaid(), HasSubstr("Use a Date after 05-02-03."));  // hay: a day later than what is taken
     Entry.Pick("ListRain", 0).Click("cmdDeleteR");
     EXPECT_EQ(User.LastAsked(), "DELETE Confirmation: Are you sure you wish to delete rainfall data on: 07-03-03?");
     EXPECT_THAT(Stored().Rain, testing::SizeIs(2));
@@ -131,7 +106,6 @@ TEST_F(WaterTest, DeletesTheSelectedRowOrTheTypedDayAfterAQuestion) {
     EXPECT_EQ(User.LastSaid(), "Try again...: No matching date found");
     Entry.Type("txtRainDate", "7/5/2003").Click("cmdDeleteR");
     EXPECT_THAT(Stored().Rain, IsEmpty());
-    EXPECT_EQ(Water.txtRAIN.Text, "0.0 inches");
 }
 
 TEST_F(WaterTest, CancelPutsEverythingBackWhateverTheListsHeld) {
@@ -169,17 +143,55 @@ TEST_F(WaterTest, AFailedRunLeavesListsFileAndRowAsTheyWere) {
     EXPECT_EQ(State.CurrentField, 1);
 }
 
-TEST(EventList, KeepsOneEntryPerDayInOrder) {
-    std::vector<EventRecord> list{{10, 1}, {20, 2}, {30, 3}};
-    EXPECT_EQ(ManageEvents(list, 15, 7.5), ListChange::Changed);
-    EXPECT_EQ(ManageEvents(list, 31, 4), ListChange::Changed);
-    EXPECT_EQ(ManageEvents(list, 20, 2.4), ListChange::Unchanged);
-    EXPECT_EQ(ManageEvents(list, 20, 2.6), ListChange::Changed);
-    EXPECT_EQ(ManageEvents(list, 30, std::nullopt), ListChange::Changed);
-    EXPECT_EQ(ManageEvents(list, 30, std::nullopt), ListChange::NoMatch);
-    EXPECT_THAT(list, ElementsAre(EventRecord{10, 1}, EventRecord{15, 8}, EventRecord{20, 3}, EventRecord{31, 4}));
+struct CutsTest : WaterTest {
+    At Cuts{FormName::frmCuts};
+
+    CutsTest() {
+        Open(AField().Hay());
+        Entry.Click("cmdCancel");
+        Menu.Click("mnuCuts");
+    }
+
+    void Cut(std::string_view date, std::string_view number) {
+        Cuts.Type("txtCutAdd", date).Type("txtCutNumber", number).Press("txtCutNumber", Event::EnterKey);
+    }
+};
+
+TEST_F(CutsTest, RecordsCuttingsFromTheOnsetOfGrowthOnAndCancelPutsThemBack) {
+    const auto files = Files();
+    Cut("5/1/2003", "1");
+    Cut("6/20/2003", "2");
+    Cut("06-20-2003", "3");
+    EXPECT_THAT(Stored().Cuttings, ElementsAre(EventRecord{Planting, 1}, EventRecord{JulianFromDate(6, 20, 2003), 3}));
+    EXPECT_EQ(The<frmCuts>().ListCuts.Items.at(1).Text, "06-20-03   ..........   #3");
+    Cut("6/20/2003", "0");  // removes it
+    EXPECT_THAT(Stored().Cuttings, ElementsAre(EventRecord{Planting, 1}));
+    User.Answers = {true};
+    Cuts.Pick("ListCuts", 0).Click("cmdDelete");
+    EXPECT_EQ(User.LastAsked(), "DELETE Confirmation: Are you sure you wish to delete the CUTTING on: 05-01-03?");
+    EXPECT_THAT(Stored().Cuttings, IsEmpty());
+    Cut("7/10/2003", "2");
+    Cuts.Click("cmdCancel");
+    EXPECT_EQ(Files(), files);
+}
+
+TEST_F(CutsTest, RefusesDaysAndNumbers) {
+    using Row = std::array<std::string, 4>;  // date, number, what is said, where the focus goes
+    for (const auto& [date, number, said, focus] :
+         {Row{"4/30/2003", "1", "Veraqua: Use a Date after 05-01-03.  Only data after growth onset can be used.",
+              "txtCutAdd"},
+          Row{"7/16/2003", "1", "Veraqua: Use a Date before 07-16-03.  Can't count on future weather or work...",
+              "txtCutAdd"},
+          Row{"7/1/2003", "", "Input Error: Please enter a number value for your cut number", "txtCutNumber"},
+          Row{"7/1/2003", "2.5", "Input Error: Please enter a whole number for your cut number", "txtCutNumber"},
+          Row{"7/1/2003", "-1", "Input Error: Please enter a positive whole number for your cut number",
+              "txtCutNumber"}}) {
+        Cut(date, number);
+        EXPECT_EQ(User.LastSaid(), said);
+        EXPECT_EQ(User.FocusedControls.back(), "frmCuts." + focus);
+    }
+    EXPECT_THAT(Stored().Cuttings, IsEmpty());
 }
 
 }  // namespace
-
 }  // namespace veraqua
