@@ -47,14 +47,14 @@ class At {
     explicit At(FormTable& form) : form_(&form) {}
 
     At& Type(std::string_view box, std::string_view text);
-    At& Click(std::string_view control);
+    At& Click(std::string_view name);
     /// Picks row `position`, from 0, of a list.
     At& Pick(std::string_view list, int position);
     /// Picks a day in a calendar.
     At& PickDay(std::string_view calendar, JulianValue day);
     /// Goes into a control, which leaves the one before.
-    At& Enter(std::string_view control);
-    At& Press(std::string_view control, Event key);
+    At& Enter(std::string_view name);
+    At& Press(std::string_view name, Event key);
     /// Closes the window by its frame.
     At& Close();
 

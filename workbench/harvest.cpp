@@ -107,7 +107,7 @@ int RowToRestore() {
 
 std::string HarvestField(int row) {
     constexpr std::string_view notBackedUp = "Your field was NOT backed up.  ";
-    const std::string backup = FreeBackupName(LoadFieldFile(row).Header().FieldId, TheScreen().Now());
+    std::string backup = FreeBackupName(LoadFieldFile(row).Header().FieldId, TheScreen().Now());
     std::string failing(notBackedUp);
     try {
         files::ChangeSet changes;
