@@ -1,7 +1,10 @@
 #include "workbench/harvest.h"
 
 #include <filesystem>
+#include <set>
 
+#include "core/backups.h"
+#include "tests/support/failing_disks.h"
 #include "tests/workbench/field_menu_fixture.h"
 
 namespace veraqua {
@@ -114,6 +117,37 @@ TEST_F(HarvestTest, WhatCannotBeRestoredStaysABackup) {
         Directory.Put(name, whole);
     }
     EXPECT_EQ(RestoreField(backup), 1);
+}
+
+TEST_F(HarvestTest, APowerCutAtAnyCallOfTheDiskLeavesTheFieldWholeOrHarvested) {
+    PlantRows({1, 2, 3});
+    const files::Contents before = files::ContentsOf(Directory.Path());
+    const auto start = [&](const files::Contents& contents) {
+        for (const auto& [name, bytes] : files::ContentsOf(Directory.Path())) Directory.Delete(name);
+        for (const auto& [name, bytes] : contents) Directory.Put(name, bytes);
+        Directory.Reopen();
+        StartUp(User);
+    };
+    std::set<Ids> seen;
+    bool died = true;
+    for (int n = 1; died; ++n) {
+        ASSERT_LT(n, 100);
+        start(before);
+        files::DyingDisk disk(Directory.Path());
+        disk.RefuseCall(n);
+        files::InstallDisk(&disk);
+        try {
+            HarvestField(2);
+            died = false;
+        } catch (const files::Died&) {}
+        files::InstallDisk(nullptr);
+        for (const files::Contents& left : disk.AfterPowerCuts()) {
+            start(left);
+            seen.insert(FieldsInRows());
+            EXPECT_EQ(FindBackups().size(), RowsInUse().size() == 2 ? 1U : 0U);
+        }
+    }
+    EXPECT_EQ(seen, (std::set<Ids>{{"1", "2", "3"}, {"1", "3"}}));
 }
 
 }  // namespace
