@@ -1,7 +1,7 @@
 #include "core/crop_table.h"
 
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include <gmock/gmock.h>
 
@@ -10,16 +10,10 @@
 #include "tests/support/failure.h"
 
 namespace veraqua {
-
 namespace {
 
-using testing::AllOf;
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::StartsWith;
-
-constexpr std::string_view Beans = "BEANS,1,2,3,4,5,6,7,8,9,10,11,12,13\n";
 
 /// Both layouts, with a name that a header cuts and one that is quoted; no two numbers of a row are alike.
 constexpr std::string_view ThreeCrops =
@@ -32,87 +26,56 @@ constexpr std::string_view ThreeCrops =
     "BEANS,1,2,3,4,5,6,7,8,9,10,11,12,13\r\n"
     "what follows the last row is not read";
 
-struct CropTable : DirectoryTest {
-    CropTable() { State.CurrentField = 1; }
-};
+struct CropTable : DirectoryTest {};
 
 TEST_F(CropTable, BothLayoutsAreTakenInTheirOrder) {
+    State.CurrentField = 1;
     Directory.Put("CROP.DAT", ThreeCrops);
-    State.Field.StationCode = "08";
     State.Field.IrrEff = 0.5F;
     State.Hay.NextCutDay = 730426;
     LoadCropList(User);
     EXPECT_THAT(State.CropNames, ElementsAre("MAIZE FOR GRAIN, LATE", "@ALFALFA", "BEANS"));
 
     ReadCrop(User, 1);
-    EXPECT_FALSE(State.IsHay);
-    FieldHeader maize;
-    maize.CropName = "MAIZE FOR GRA";
-    maize.GddUpper = 30;
-    maize.GddLower = 10;
-    maize.RootStart = 0.25F;
-    maize.RootMax = 1;
-    maize.KcSpan = 1820;
-    maize.KcSine = {1.5F, -0.5F, -0.25F, -0.125F, -0.75F, -2.5F};
-    maize.GddHarvest = 1132;
-    maize.SeasonDays = 160;
-    EXPECT_EQ(State.Field, maize);  // with nothing of the field before it
+    const FieldHeader& maize = State.Field;
+    EXPECT_EQ(maize.CropName.Whole(), "MAIZE FOR GRA");
+    EXPECT_EQ(std::tuple(maize.GddUpper, maize.GddLower, maize.RootStart, maize.RootMax, maize.KcSpan),
+              std::tuple(30.0F, 10.0F, 0.25F, 1.0F, 1820.0F));
+    EXPECT_THAT(maize.KcSine, ElementsAre(1.5F, -0.5F, -0.25F, -0.125F, -0.75F, -2.5F));
+    EXPECT_EQ(std::tuple(maize.GddHarvest, maize.SeasonDays, maize.IrrEff), std::tuple(1132, 160, 0.0F));
     EXPECT_EQ(State.Stat[1].CropName.Whole(), "MAIZE FOR GRA");
 
     ReadCrop(User, 2);
     EXPECT_TRUE(State.IsHay);
-    HayHeader alfalfa;
-    alfalfa.CropName = "@ALFALFA";
-    alfalfa.GddUpper = 31;
-    alfalfa.GddLower = 5;
-    alfalfa.RootMax = 1.25F;
-    alfalfa.Curve = {0.5F, 0.75F, 0.125F, 1.5F, -2.5F, 3.5F, 4.5F, 5.5F, 6.5F, 7.5F, 8.5F, 9.5F, 10.5F};
-    alfalfa.GddCut = 490;
-    alfalfa.SeasonDays = 260;
-    alfalfa.DryDays = 7;
-    EXPECT_EQ(State.Hay, alfalfa);
-    EXPECT_EQ(State.Stat[1].CropName.Text(), "@ALFALFA");
+    const HayHeader& hay = State.Hay;
+    EXPECT_EQ(std::tuple(hay.GddUpper, hay.GddLower, hay.RootMax), std::tuple(31.0F, 5.0F, 1.25F));
+    EXPECT_THAT(hay.Curve,
+                ElementsAre(0.5F, 0.75F, 0.125F, 1.5F, -2.5F, 3.5F, 4.5F, 5.5F, 6.5F, 7.5F, 8.5F, 9.5F, 10.5F));
+    EXPECT_EQ(std::tuple(hay.GddCut, hay.SeasonDays, hay.DryDays, hay.NextCutDay), std::tuple(490, 260, 7, 0));
 
     ReadCrop(User, 3);
     EXPECT_FALSE(State.IsHay) << "an ordinary crop after hay";
-    EXPECT_EQ(State.Field.GddHarvest, 12);
-    EXPECT_THAT(User.Told, IsEmpty());
+    EXPECT_FAILURE(ReadCrop(User, 4), StartsWith("crop.dat: "));
 }
 
-TEST_F(CropTable, AFileThatIsMissingTooLongOrTooShortEndsTheProgram) {
-    std::string rows;
-    for (int i = 0; i < 201; ++i) rows += Beans;
-    Directory.Put("crop.dat", "200\n" + rows);
-    LoadCropList(User);
-    EXPECT_EQ(State.CropNames.size(), 200U);
-    Directory.Put("crop.dat", "201\n" + rows);
-    EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    Directory.Put("crop.dat", "2\n" + std::string(Beans) + " \r\n\n");
-    EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    Directory.Delete("crop.dat");
-    EXPECT_THROW(LoadCropList(User), ProgramEnded);
-    EXPECT_THAT(
-        User.Told,
-        ElementsAre(ScriptAsk::Message{"Too many crops in crop.dat.  Redefine with fewer than 200 crops!", "Veraqua"},
-                    ScriptAsk::Message{"File CROP.DAT is bad. Recopy from distribution disk.", "Veraqua"},
-                    ScriptAsk::Message{"Exiting -- need to reload CROP.DAT", "Fatal Error", Icon::Stop}));
-}
-
-TEST_F(CropTable, ADamagedFileIsAFailureThatNamesIt) {
+TEST_F(CropTable, AFileThatCannotBeReadWhollyEndsTheProgramOrIsAFailure) {
+    const std::string beans = "BEANS,1,2,3,4,5,6,7,8,9,10,11,12,13\n";
     // An item short, the next name is no number.
-    for (const std::string& text :
-         {std::string(), std::string("many"), std::string("-1"), std::string("1\nBEANS,1,2,3"),
-          "2\nBEANS,1,2,3,4,5,6,7,8,9,10,11,12\n" + std::string(Beans),
-          std::string("1\nBEANS,1,2,3,4,5,6,7,8,9,10,11,40000,13\n")}) {
+    for (const std::string text : {"", "many", "-1", "1\nBEANS,1,2,3", "2\nBEANS,1,2,3,4,5,6,7,8,9,10,11,12\nBEANS",
+                                   "1\nBEANS,1,2,3,4,5,6,7,8,9,10,11,40000,13\n"}) {
         Directory.Put("crop.dat", text);
         EXPECT_FAILURE(LoadCropList(User), StartsWith("crop.dat: ")) << text;
     }
-    Directory.Put("crop.dat", ThreeCrops);
-    for (const int number : {0, 4})
-        EXPECT_FAILURE(ReadCrop(User, number), AllOf(StartsWith("crop.dat: "), HasSubstr("3 crops")));
-    EXPECT_THAT(User.Told, IsEmpty());
+    for (const std::string& text : {"201\n" + beans, "2\n" + beans + " \r\n\n"}) {
+        Directory.Put("crop.dat", text);
+        EXPECT_THROW(LoadCropList(User), ProgramEnded);
+    }
+    Directory.Delete("crop.dat");
+    EXPECT_THROW(LoadCropList(User), ProgramEnded);
+    EXPECT_THAT(User.Texts(), ElementsAre("Too many crops in crop.dat.  Redefine with fewer than 200 crops!",
+                                          "File CROP.DAT is bad. Recopy from distribution disk.",
+                                          "Exiting -- need to reload CROP.DAT"));
 }
 
 }  // namespace
-
 }  // namespace veraqua

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "core/failure.h"
@@ -12,7 +10,8 @@
 
 namespace veraqua::files {
 
-/// A directory of the test's own, not open. What stands in it is placed and looked at past the code under test.
+/// A directory of the test's own, not open. What stands in it is placed and looked at past the code under test, but for
+/// the lock, which is always empty and stays: to open and close it would give the lock back.
 class FilesTest : public testing::Test {
   protected:
     FilesTest() {
@@ -23,20 +22,11 @@ class FilesTest : public testing::Test {
 
     /// Makes the directory hold these files and no others.
     void Place(const Contents& contents) const {
-        for (const auto& entry : std::filesystem::directory_iterator(Path()))
-            if (entry.path().filename() != "veraqua.lock") std::filesystem::remove_all(entry);
+        for (const auto& [name, bytes] : OnDisk()) std::filesystem::remove(Path() + name);
         for (const auto& [name, bytes] : contents) directory_.Put(name, bytes);
     }
 
-    /// All files, but for the lock, which is always empty and stays: to open and close it would give the lock back.
-    Contents OnDisk() const {
-        Contents contents;
-        for (const auto& entry : std::filesystem::directory_iterator(Path())) {
-            const std::string name = entry.path().filename();
-            if (name != "veraqua.lock") contents[name] = entry.is_regular_file() ? directory_.Raw(name) : "";
-        }
-        return contents;
-    }
+    Contents OnDisk() const { return ContentsOf(Path()); }
 
     /// What the program sees through Names and Read.
     static Contents Seen() {
@@ -45,15 +35,22 @@ class FilesTest : public testing::Test {
         return contents;
     }
 
-    /// Text of the failure that Open ends in; empty if it succeeds.
-    std::string FailureOfOpen(Access access) const {
+    /// Text of the failure that `deed` ends in; empty if it succeeds.
+    template <class Deed>
+    static std::string FailureOf(Deed deed) {
         try {
-            Open(Path(), access);
+            deed();
         } catch (const RunTimeFailure& failure) {
             return failure.what();
         }
-        Close();
         return "";
+    }
+
+    /// Likewise of Open; what it has opened is closed again.
+    std::string FailureOfOpen(Access access) const {
+        const std::string text = FailureOf([&] { Open(Path(), access); });
+        Close();
+        return text;
     }
 
     /// Instead of a disk that a test has installed.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -35,7 +36,10 @@ class AField {
         header.SeasonDays = 160;
         header.KcSpan = 1820;
         header.KcSine = {1.2137F, -0.0113F, -0.0476F, -0.0740F, -0.0457F, -0.0280F};
-        TakeCommon(header);
+        header.StationCode = "06";
+        header.PlantDay = JulianFromDate(5, 1, 2003);
+        header.MAD = 50;
+        header.IrrEff = 0.85F;
         Zones(4, 0.3F).Capacity(140).Content(140);
     }
 
@@ -43,19 +47,18 @@ class AField {
     AField& Hay() {
         file_.IsHay = true;
         HayHeader& header = file_.Hay;
+        static_cast<HeaderCommon&>(header) = file_.Field;
         header.FieldId = "CREEK";
         header.CropName = "@ALFALFA";
         header.RootMax = 1.2F;
         header.GddLower = 5;
-        header.GddUpper = 30;
         header.GddCut = 490;
         header.SeasonDays = 260;
         header.DryDays = 7;
         header.Curve = {0.023F, 0.857F, 0.00193F, 0.843F, -0.00923F, 0.01184F, 0.8F,
                         1.15F,  1.05F,  1.25F,    0.4F,   0.5F,      0.3F};
         header.MADCritical = 65;
-        TakeCommon(header);
-        return Zones(4, 0.3F);
+        return *this;
     }
 
     AField& Id(std::string_view id) { return Common().FieldId = id, *this; }
@@ -66,23 +69,19 @@ class AField {
     AField& Efficiency(float fraction) { return Common().IrrEff = fraction, *this; }
 
     /// Roots of an ordinary crop at planting and at their deepest, m.
-    AField& Roots(float start, float deepest) {
-        file_.Field.RootStart = start;
-        file_.Field.RootMax = deepest;
-        return *this;
-    }
+    AField& Roots(float start, float most) { return file_.Field.RootStart = start, file_.Field.RootMax = most, *this; }
 
     /// Fixed soil: `count` zones, each `interval` m thick.
     AField& Zones(int count, float interval) {
-        file_.Soil.Bounds = {};
-        return Soil(count, interval);
+        Common().CapacityTop = Common().ContentTop = static_cast<std::int16_t>(count - 1);
+        Common().CapacityInterval = Common().ContentInterval = interval;
+        return *this;
     }
 
     /// Variable soil: layers of these thicknesses, m.
     AField& Layers(std::initializer_list<float> thicknesses) {
-        file_.Soil.Bounds = {};
         std::copy(thicknesses.begin(), thicknesses.end(), file_.Soil.Bounds.begin());
-        return Soil(static_cast<int>(thicknesses.size()), 0);
+        return Zones(static_cast<int>(thicknesses.size()), 0);
     }
 
     /// The same in all zones, mm/m. A change of the zones' number keeps it.
@@ -90,42 +89,31 @@ class AField {
     AField& Content(std::int16_t each) { return file_.Soil.Content.fill(each), *this; }
 
     /// From the surface down, mm/m; zones below keep what they had.
-    AField& Capacity(std::initializer_list<std::int16_t> zones) {
-        return std::copy(zones.begin(), zones.end(), file_.Soil.Capacity.begin()), *this;
-    }
-    AField& Content(std::initializer_list<std::int16_t> zones) {
-        return std::copy(zones.begin(), zones.end(), file_.Soil.Content.begin()), *this;
-    }
+    using Zonal = std::initializer_list<std::int16_t>;
+    AField& Capacity(Zonal zones) { return std::ranges::copy(zones, file_.Soil.Capacity.begin()), *this; }
+    AField& Content(Zonal zones) { return std::ranges::copy(zones, file_.Soil.Content.begin()), *this; }
 
     /// Day rows from planting on, in place of the one that the soil gives.
-    AField& Days(std::vector<DayRecord> rows) {
-        file_.Days = std::move(rows);
-        madeRows_ = 0;
-        return *this;
-    }
+    AField& Days(std::vector<DayRecord> rows) { return file_.Days = std::move(rows), madeRows_ = 0, *this; }
 
     /// `count` day rows: every day 10 degree days and 5 mm of reference ET, water and roots as at planting.
-    AField& Days(int count) {
-        madeRows_ = count;
-        return *this;
-    }
+    AField& Days(int count) { return file_.Days.clear(), madeRows_ = count, *this; }
 
     AField& Rain(JulianValue day, std::int16_t mm) { return file_.Lists.Rain.push_back({day, mm}), *this; }
     AField& Irrigation(JulianValue day, std::int16_t mm) { return file_.Lists.Irrigation.push_back({day, mm}), *this; }
-    AField& Cutting(JulianValue day, std::int16_t number) {
-        return file_.Lists.Cuttings.push_back({day, number}), *this;
-    }
+    AField& Cutting(JulianValue day, std::int16_t n) { return file_.Lists.Cuttings.push_back({day, n}), *this; }
 
     /// Anything else.
-    template <class Change>
-    AField& With(Change change) {
-        change(file_);
-        return *this;
-    }
+    AField& With(const std::function<void(FieldFile&)>& change) { return change(file_), *this; }
 
     FieldFile Build() const {
         FieldFile file = file_;
-        if (madeRows_ > 0) file.Days = PlainRows(madeRows_);
+        const float roots = file.IsHay ? file.Hay.RootMax : file.Field.RootStart;
+        for (int i = 0; i < madeRows_; ++i) {  // as wet as the first zone
+            const auto days = static_cast<float>(i);
+            file.Days.push_back({static_cast<float>(file.Soil.Content[0]) * roots, 10 * days, roots, 5 * days,
+                                 static_cast<std::int16_t>(4 + i)});
+        }
         // Zones beyond the highest are not in a file.
         std::fill(file.Soil.Capacity.begin() + file.Header().CapacityTop + 1, file.Soil.Capacity.end(),
                   std::int16_t{0});
@@ -139,47 +127,20 @@ class AField {
     /// Directory files that are missing are made.
     FieldFile StoreAt(int row) const {
         FieldFile file = Build();
-        ScriptAsk nobody;
+        const HeaderCommon& header = file.Header();
         if (!files::Exists("stat.dat")) StartDirectory();
         State.FieldCount = static_cast<std::int16_t>(State.FieldCount + (State.Stat[row].LastDay == 0));
-        StatRecord& record = State.Stat[row] = {};
-        record.FieldId = file.Header().FieldId;
-        record.CropName = file.Header().CropName;
-        record.LastDay = file.Header().PlantDay + static_cast<JulianValue>(file.Days.size()) - 1;
-        record.MadNow = file.Header().MAD;
+        const auto lastDay = header.PlantDay + static_cast<JulianValue>(file.Days.size()) - 1;
+        State.Stat[row] = {header.FieldId, header.CropName, lastDay, 0, header.MAD, 0, 0, 0};
         State.Updates[row] = 0;
         StoreFieldFile(row, file);
+        ScriptAsk nobody;
         SaveFieldRow(nobody, row);
         return file;
     }
 
   private:
     HeaderCommon& Common() { return file_.Header(); }
-
-    static void TakeCommon(HeaderCommon& header) {
-        header.StationCode = "06";
-        header.PlantDay = JulianFromDate(5, 1, 2003);
-        header.MAD = 50;
-        header.IrrEff = 0.85F;
-    }
-
-    AField& Soil(int count, float interval) {
-        Common().CapacityTop = Common().ContentTop = static_cast<std::int16_t>(count - 1);
-        Common().CapacityInterval = Common().ContentInterval = interval;
-        return *this;
-    }
-
-    /// Rows whose water is that of a root zone as wet as the first zone.
-    std::vector<DayRecord> PlainRows(int count) const {
-        const float roots = file_.IsHay ? file_.Hay.RootMax : file_.Field.RootStart;
-        std::vector<DayRecord> rows;
-        for (int i = 0; i < count; ++i) {
-            const auto days = static_cast<float>(i);
-            rows.push_back({static_cast<float>(file_.Soil.Content[0]) * roots, 10 * days, roots, 5 * days,
-                            static_cast<std::int16_t>(4 + i)});
-        }
-        return rows;
-    }
 
     FieldFile file_;
     int madeRows_ = 1;
@@ -189,35 +150,12 @@ class AField {
 /// langleys, 6 mm of reference ET, measured.
 class AWeatherDay {
   public:
-    AWeatherDay() {
-        day_.DayOfYear = 196;
-        day_.TempMax = 30;
-        day_.TempMin = 12;
-        day_.HumidityMax = 80;
-        day_.HumidityMin = 30;
-        day_.WindRun = 173;
-        day_.DayNightRatio = 2;
-        day_.SolarRadiation = 600;
-        day_.ReferenceET = 6;
-        day_.Source = "kesta";
-    }
+    AWeatherDay() { day_.Source = "kesta"; }
 
     AWeatherDay& DayOfYear(int day) { return day_.DayOfYear = static_cast<std::int16_t>(day), *this; }
-    AWeatherDay& Temperature(float lowest, float highest) {
-        day_.TempMin = lowest;
-        day_.TempMax = highest;
-        return *this;
-    }
-    AWeatherDay& Humidity(float lowest, float highest) {
-        day_.HumidityMin = lowest;
-        day_.HumidityMax = highest;
-        return *this;
-    }
-    AWeatherDay& Wind(float kilometres, float dayNightRatio) {
-        day_.WindRun = kilometres;
-        day_.DayNightRatio = dayNightRatio;
-        return *this;
-    }
+    AWeatherDay& Temperature(float low, float high) { return day_.TempMin = low, day_.TempMax = high, *this; }
+    AWeatherDay& Humidity(float low, float high) { return day_.HumidityMin = low, day_.HumidityMax = high, *this; }
+    AWeatherDay& Wind(float km, float ratio) { return day_.WindRun = km, day_.DayNightRatio = ratio, *this; }
     AWeatherDay& Radiation(float langleys) { return day_.SolarRadiation = langleys, *this; }
     AWeatherDay& ReferenceET(float mm) { return day_.ReferenceET = mm, *this; }
     AWeatherDay& From(std::string_view source) { return day_.Source = source, *this; }
@@ -225,7 +163,7 @@ class AWeatherDay {
     operator WeatherDay() const { return day_; }  // NOLINT(google-explicit-constructor)
 
   private:
-    WeatherDay day_;
+    WeatherDay day_{196, 30, 12, 80, 30, 173, 2, 600, 6, {}};
 };
 
 /// The weather file of a station's year: every day of it the same until the test says otherwise.
@@ -247,20 +185,16 @@ class AWeatherYear {
         return *this;
     }
     AWeatherYear& On(int dayOfYear, const WeatherDay& weather) {
-        WeatherDay& place = days_.at(static_cast<std::size_t>(dayOfYear - 1));
-        place = weather;
-        place.DayOfYear = static_cast<std::int16_t>(dayOfYear);
-        return *this;
+        return With(dayOfYear, [&](WeatherDay& place) {
+            place = weather;
+            place.DayOfYear = static_cast<std::int16_t>(dayOfYear);
+        });
     }
 
     /// Anything else of one day, its day number too.
-    template <class Change>
-    AWeatherYear& With(int dayOfYear, Change change) {
-        change(days_.at(static_cast<std::size_t>(dayOfYear - 1)));
-        return *this;
+    AWeatherYear& With(int dayOfYear, const std::function<void(WeatherDay&)>& change) {
+        return change(days_.at(static_cast<std::size_t>(dayOfYear - 1))), *this;
     }
-
-    const std::string& Name() const { return name_; }
 
     std::string Bytes() const {
         std::string bytes;

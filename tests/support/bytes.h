@@ -1,20 +1,17 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdlib>
+#include <sstream>
 #include <string>
 #include <string_view>
 
 namespace veraqua {
 
-/// Bytes written out by hand, two hexadecimal digits each: `Hex("01 00")`. Blanks don't count.
-inline std::string Hex(std::string_view text) {
-    std::string digits;
-    for (const char c : text)
-        if (c != ' ') digits += c;
+/// Bytes written out by hand, two hexadecimal digits each with blanks between: `Hex("01 00")`.
+inline std::string Hex(const std::string& text) {
+    std::istringstream digits(text);
     std::string bytes;
-    for (std::size_t i = 0; i + 1 < digits.size(); i += 2)
-        bytes += static_cast<char>(std::strtoul(digits.substr(i, 2).c_str(), nullptr, 16));
+    for (int byte = 0; digits >> std::hex >> byte;) bytes += static_cast<char>(byte);
     return bytes;
 }
 

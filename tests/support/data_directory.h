@@ -9,7 +9,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include <gtest/gtest.h>
 
@@ -32,8 +31,7 @@ class TestDirectory {
     }
     ~TestDirectory() {
         files::Close();
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
+        std::filesystem::remove_all(path_);
     }
     TestDirectory(const TestDirectory&) = delete;
     TestDirectory& operator=(const TestDirectory&) = delete;
@@ -42,9 +40,7 @@ class TestDirectory {
     const std::string& Path() const { return path_; }
 
     void Put(std::string_view name, std::string_view bytes) const {
-        std::ofstream file(path_ + std::string(name), std::ios::binary | std::ios::trunc);
-        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        if (!file.flush()) throw std::runtime_error("Can't write " + std::string(name));
+        std::ofstream(path_ + std::string(name), std::ios::binary) << bytes;
     }
 
     /// The file's bytes; std::runtime_error if there is none.
@@ -55,14 +51,13 @@ class TestDirectory {
     }
 
     bool Has(std::string_view name) const { return std::filesystem::exists(path_ + std::string(name)); }
-
     void Delete(std::string_view name) const { std::filesystem::remove(path_ + std::string(name)); }
 
     /// As if the program ended and another began: the state starts anew, the files stay.
-    void Reopen(files::Access access = files::Access::Write) const {
+    void Reopen() const {
         files::Close();
         State = ApplicationState{};
-        files::Open(path_, access);
+        files::Open(path_, files::Access::Write);
     }
 
   private:

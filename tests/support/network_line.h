@@ -37,9 +37,7 @@ class ANetworkLine {
 
 inline std::string operator+(const std::string& text, const ANetworkLine& line) { return text + std::string(line); }
 inline std::string operator+(const ANetworkLine& line, std::string_view text) { return std::string(line).append(text); }
-inline std::string operator+(const ANetworkLine& first, const ANetworkLine& second) {
-    return std::string(first) + second;
-}
+inline std::string operator+(const ANetworkLine& a, const ANetworkLine& b) { return std::string(a) + std::string(b); }
 
 /// Fair days from `first` to `last`.
 inline std::string NetworkDays(int first, int last) {

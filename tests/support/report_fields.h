@@ -61,11 +61,7 @@ inline AField InLayers(AField field) { return field.Layers({0.1524F, 0.3048F, 0.
 
 /// The directory's row of a field without a prediction.
 inline StatRecord RowOf(const FieldFile& file) {
-    StatRecord row;
-    row.FieldId = file.Header().FieldId;
-    row.CropName = file.Header().CropName;
-    row.LastDay = MayDay(3);
-    return row;
+    return {file.Header().FieldId, file.Header().CropName, MayDay(3), 0, 0, 0, 0, 0};
 }
 
 }  // namespace veraqua

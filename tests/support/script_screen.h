@@ -15,11 +15,8 @@ namespace veraqua {
 /// What he does on a form that is shown to him alone stands in `WhenShown`.
 class ScriptScreen : public Scripted<HeadlessScreen> {
   public:
-    // The script
-    PrintOutcome Printer;       ///< what comes of printing
-    bool DocumentOpens = true;  ///< whether the platform has a viewer
+    PrintOutcome Printer;  ///< what comes of printing
 
-    // The record
     std::vector<FormName> Presented;           ///< forms brought to the user, modal ones too
     std::vector<std::string> FocusedControls;  ///< "frmAddWater.txtRainDate"; with " (selected)" where its text was
     std::vector<PrintedDocument> Printed;
@@ -39,7 +36,7 @@ class ScriptScreen : public Scripted<HeadlessScreen> {
     }
     PrintOutcome PrintImage(FormTable& form) override { return PrintedForms.push_back(form.Name), Printer; }
     PrintOutcome Print(const PrintedDocument& document) override { return Printed.push_back(document), Printer; }
-    bool OpenDocument(const std::string& path) override { return OpenedDocuments.push_back(path), DocumentOpens; }
+    bool OpenDocument(const std::string& path) override { return OpenedDocuments.push_back(path), true; }
     void Failed(const RunTimeFailure& failure) override { Failures.emplace_back(failure.what()); }
     void SetNow(JulianValue day) override { Today = day; }
     void ChooseWeatherSource() override {
@@ -59,10 +56,7 @@ struct FormTest : testing::Test {
     ScriptScreen User;
 
     ~FormTest() override {
-        for (FormTable* form : AllForms()) {
-            form->Loaded = false;
-            form->Shown = false;
-        }
+        for (FormTable* form : AllForms()) form->Loaded = form->Shown = false;
     }
     FormTest() = default;
     FormTest(const FormTest&) = delete;
