@@ -16,8 +16,8 @@ std::string HarvestField(int row);
 
 /// Undoes a harvest: the backup becomes the file of the row behind the last one, with the depletion date and the
 /// prediction that the field had; without its ".row" file it is run from planting. Gives the row; nothing, after the
-/// user has been told, if that is no backup, there is no room or a field in use has its ID. RunTimeFailure if the backup
-/// is damaged or the disk refuses; the files then stay as they are.
+/// user has been told, if that is no backup, there is no room or a field in use has its ID. RunTimeFailure if the
+/// backup is damaged or the disk refuses; the files then stay as they are.
 std::optional<int> RestoreField(const std::string& backupName);
 
 /// The user has picked backup `number`, from 1, of those listed.
