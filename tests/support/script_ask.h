@@ -54,6 +54,7 @@ class Scripted : public Outside {
     /// The texts of `Told` alone.
     std::vector<std::string> Texts() const {
         std::vector<std::string> texts;
+        texts.reserve(Told.size());
         for (const Message& message : Told) texts.push_back(message.Text);
         return texts;
     }

@@ -41,7 +41,7 @@ class ScriptScreen : public Scripted<HeadlessScreen> {
     void SetNow(JulianValue day) override { Today = day; }
     void ChooseWeatherSource() override {
         ++WeatherSourceChosen;
-        WeatherSource ? WeatherSource() : HeadlessScreen::ChooseWeatherSource();
+        WeatherSource ? WeatherSource() : ShowModal(FormName::frmKESTA);
     }
 
     /// "title: text" of the last message; empty if nothing was said.
