@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -19,6 +20,10 @@ const std::string OrdinaryField = Row +
                                   " station plant_day root_start root_max gdd_lower gdd_upper gdd_harvest season_days "
                                   "mad irr_eff" +
                                   Soil + " rain_total irrigation_total";
+const std::string HayField = Row +
+                             " station plant_day root_max gdd_lower gdd_upper gdd_cut season_days mad mad_critical "
+                             "dry_days irr_eff" +
+                             Soil + " cuttings rain_total irrigation_total";
 
 /// The keys of an object, or of an array's first object.
 std::string KeysOf(const std::string& text) {
@@ -37,11 +42,7 @@ TEST_F(Commands, PrintOneJsonDocumentWithTheKeysThatScriptsKnow) {
              {"crops", "number name hay"},
              {"fields", Row},
              {"field show 1", OrdinaryField},
-             {"field show 2",
-              Row +
-                  " station plant_day root_max gdd_lower gdd_upper gdd_cut season_days mad mad_critical "
-                  "dry_days irr_eff" +
-                  Soil + " cuttings rain_total irrigation_total"},
+             {"field show 2", HayField},
              {"field days 1", "day available gdd_sum root_depth etr_sum days_since_wet"},
              {"field update 2", Row},
              {"weather import 06 " + text, "from to last_day"},
@@ -69,8 +70,7 @@ TEST_F(Commands, PrintStoredNumbersInTheirShortestFormAndDatesAsObjects) {
             {"weather show 06 2003",
              R"([{"day_of_year": 1, "temp_max": 30, "temp_min": 12, "humidity_max": 80, "humidity_min": 30, )"
              R"("wind_run": 173, "day_night_ratio": 2, "solar_radiation": 600, "reference_et": 6, "source": "kesta"}, )"},
-            {"weather default 06 7-14-2003 7/14/2003",
-             R"({"from": )" + july14 + R"(, "to": )" + july14 + R"(, "days": 1})"},
+            {"weather default 06 7-14-2003 7/14/2003", fmt::format(R"({{"from": {0}, "to": {0}, "days": 1}})", july14)},
             {"weather check 06 2003", R"({"last_day": )" + july14 + R"(, "need_from": null, "need_to": null})"}})
         EXPECT_THAT(Run(command, {"--json"}).Out, testing::HasSubstr(part)) << command;
     // 30 and 12 degrees C; 173 km a day are 173 * 0.6214 / 24 = 4.48 mph; 6 mm / 25.4.

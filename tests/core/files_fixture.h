@@ -48,7 +48,7 @@ class FilesTest : public testing::Test {
 
     /// Likewise of Open; what it has opened is closed again.
     std::string FailureOfOpen(Access access) const {
-        const std::string text = FailureOf([&] { Open(Path(), access); });
+        std::string text = FailureOf([&] { Open(Path(), access); });
         Close();
         return text;
     }
