@@ -110,6 +110,15 @@ TEST_F(Entry, AdjustmentsResetHarvestAndItsUndo) {
     EXPECT_EQ(Directory.Raw("stat.dat"), before.at("stat.dat").substr(0, 82));
 }
 
+TEST_F(Entry, AskForTheSeasonAsAChartAndAsATable) {
+    const Json chart = Json::parse(Do({"field", "chart", "2"}).Out);
+    EXPECT_EQ(chart["series"][0]["points"].dump(), "[[731642,168]]");  // the planting day: 140 mm/m in 1.2 m
+    EXPECT_EQ(chart["marks"].dump(), R"([{"name":"Today","day":{"julian":731717,"date":"2003-07-15"}}])");
+    EXPECT_EQ(Run("--units metric field days 2 --csv").Out,
+              "date,day,available_mm,depletion_percent,gdd_c,gdd_sum_c,etr_mm,etr_sum_mm,kc,kd,etc_mm,etc_sum_mm,"
+              "irrigation_mm,rain_mm,cutting\n2003-05-01,0,168,0,0,0,0,0,0,1,0,0,0,0,0\n");
+}
+
 TEST_F(CliTest, KeepWritersOutWhileAnotherProgramWritesAndReadersNot) {
     Directory.Reopen();  // this program holds it now
     const std::string held = "Veraqua: Another Veraqua (process " + std::to_string(getpid()) + ") is working in " +
