@@ -8,6 +8,7 @@
 #include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "core/units.h"
 
 namespace veraqua {
 
@@ -19,16 +20,17 @@ std::string DateText(JulianValue day) { return day == 0 ? "" : JulianToShortText
 
 /// Water as the user counts it, with its unit.
 std::string Water(double millimetres) {
-    return State.EnglishUnits ? Masked(millimetres / 25.4, "0.00") + " in" : Masked(millimetres, "0.0") + " mm";
+    return State.EnglishUnits ? Masked(millimetres / MillimetresPerInch, "0.00") + " in"
+                              : Masked(millimetres, "0.0") + " mm";
 }
 
 std::string Depth(double metres) {
-    return State.EnglishUnits ? Masked(metres / 0.3048, "0.00") + " ft" : Masked(metres, "0.00") + " m";
+    return State.EnglishUnits ? Masked(metres / MetresPerFoot, "0.00") + " ft" : Masked(metres, "0.00") + " m";
 }
 
 /// A water content of soil, mm per m.
 std::string WaterPerDepth(double millimetresPerMetre) {
-    return State.EnglishUnits ? Masked(millimetresPerMetre * 0.3048 / 25.4, "0.00") + " in/ft"
+    return State.EnglishUnits ? Masked(millimetresPerMetre * MetresPerFoot / MillimetresPerInch, "0.00") + " in/ft"
                               : Masked(millimetresPerMetre, "0") + " mm/m";
 }
 

@@ -14,6 +14,7 @@
 #include "core/files.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "core/units.h"
 #include "engine/season_run.h"
 #include "shell/sample_grower.h"
 #include "shell/sample_plantings.h"
@@ -27,9 +28,9 @@ namespace {
 constexpr std::int16_t CriticalMad = 80;  ///< percent
 
 // Depths are stored as the entry forms store what is typed in inches; the form of hay shows its roots in tenths.
-float FromInches(double inches) { return ToSingle(inches / 12 * 0.3048, "a depth"); }
+float FromInches(double inches) { return ToSingle(inches / InchesPerFoot * MetresPerFoot, "a depth"); }
 
-float AsTypedInInches(float metres) { return FromInches(RoundedTo(metres / 0.3048 * 12, 10)); }
+float AsTypedInInches(float metres) { return FromInches(RoundedTo(metres / MetresPerFoot * InchesPerFoot, 10)); }
 
 int CropNumber(Ask& ask, std::string_view name) {
     LoadCropList(ask);

@@ -1,6 +1,7 @@
 #include "weather/forms/day_rows.h"
 
 #include "core/numbers.h"
+#include "core/units.h"
 #include "weather/network_text.h"
 
 namespace veraqua {
@@ -21,7 +22,7 @@ constexpr Unit Fahrenheit{1.8, 1, 32};
 constexpr Unit MilesPerHour{0.6214, 24, 0};
 constexpr Unit KilometresPerHour{1, 24, 0};
 constexpr Unit Megajoules{1, LangleysPerMegajoule, 0};
-constexpr Unit Inches{1, 25.4, 0};
+constexpr Unit Inches{1, MillimetresPerInch, 0};
 
 struct Description {
     float WeatherDay::*Member;
