@@ -37,7 +37,8 @@ F& The() {
 }
 
 enum class Event {
-    Click,   ///< button pressed, menu entry chosen, list row or calendar day picked, option chosen
+    Click,   ///< button pressed, menu entry chosen, list row or calendar day picked, row of a table opened, option
+             ///< chosen
     Change,  ///< text typed into a box; in an editable drop-down list, on leaving it or Enter
     Leave,   ///< the focus is about to go elsewhere, but not to an exit; a refusal keeps it
     EnterKey,
@@ -45,7 +46,7 @@ enum class Event {
 };
 
 using AnyControl = std::variant<Label*, Frame*, TextBox*, Button*, ComboBox*, ListBox*, OptionButton*, MenuItem*,
-                                StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*, Chart*>;
+                                StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*, Chart*, Table*>;
 
 struct ControlEntry {
     std::string Name;  ///< in an array with its index: "txtcap(2)"
@@ -70,6 +71,7 @@ class FormTable {
 
     std::function<void()> Reset;   ///< sets the record back to its design
     std::function<void()> Load;    ///< before it is first shown
+    std::function<void()> Appear;  ///< each time before it is brought to the user, after `Load`
     std::function<void()> Fill;    ///< asked for by another form, which doesn't know this one
     std::function<void()> Close;   ///< what the window's frame and Esc do: the form's own leave button
     std::function<void()> Unload;  ///< when its window goes
@@ -174,6 +176,7 @@ class FormFor {
     }
 
     FormFor& Load(Handler function) { return Hook(table_.Load, function); }
+    FormFor& Appear(Handler function) { return Hook(table_.Appear, function); }
     FormFor& Fill(Handler function) { return Hook(table_.Fill, function); }
     FormFor& Close(Handler function) { return Hook(table_.Close, function); }
     FormFor& Unload(Handler function) { return Hook(table_.Unload, function); }

@@ -30,6 +30,7 @@ bool Open(FormTable& form) {
             throw;
         }
     }
+    if (form.Loaded && form.Appear) form.Appear();
     form.Shown = form.Loaded;
     return form.Loaded;
 }

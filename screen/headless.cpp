@@ -84,6 +84,8 @@ At& At::Pick(std::string_view list, int position) {
         (*combo)->Select(position);
     else if (ListBox* const* box = std::get_if<ListBox*>(&control.Where))
         (*box)->Index = position;
+    else if (Table* const* table = std::get_if<Table*>(&control.Where))
+        (*table)->Index = position;
     else
         Misuse(*form_, list, "is no list");
     RunEvent(*form_, control, Event::Click);

@@ -48,7 +48,7 @@ class At {
 
     At& Type(std::string_view box, std::string_view text);
     At& Click(std::string_view name);
-    /// Picks row `position`, from 0, of a list.
+    /// Picks row `position`, from 0, of a list; of a table opens it.
     At& Pick(std::string_view list, int position);
     /// Picks a day in a calendar.
     At& PickDay(std::string_view calendar, JulianValue day);

@@ -124,9 +124,9 @@ void mblank_Click(frmField& form) { ShowBackground(form, nullptr); }
 
 // The table, group by group.
 
-using Table = FormFor<frmField>;
+using MenuTable = FormFor<frmField>;
 
-void AddChoice(Table& table, frmField& form) {
+void AddChoice(MenuTable& table, frmField& form) {
     table.Add("lblField", form.lblField);
     table.Add("ComboField", form.ComboField).Click(ComboField_Click).EscapeKey(cmd_Cancel_Click);
     table.Add("lblCrops", form.lblCrops);
@@ -138,7 +138,7 @@ void AddChoice(Table& table, frmField& form) {
     table.Add("cmd_Cancel", form.cmd_Cancel).Click(cmd_Cancel_Click).Exit();
 }
 
-void AddFieldShown(Table& table, frmField& form) {
+void AddFieldShown(MenuTable& table, frmField& form) {
     table.Add("lbl_selected", form.lbl_selected);
     table.Add("lbl_ID", form.lbl_ID);
     table.Add("lbl_crop", form.lbl_crop);
@@ -152,7 +152,7 @@ void AddFieldShown(Table& table, frmField& form) {
     table.Add("lbl_wait", form.lbl_wait);
 }
 
-void AddDepletionPanel(Table& table, frmField& form) {
+void AddDepletionPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeDepl", form.ShapeDepl);
     table.Add("lblDeplVal", form.lblDeplVal);
     table.Add("lblRootWater", form.lblRootWater);
@@ -164,7 +164,7 @@ void AddDepletionPanel(Table& table, frmField& form) {
     table.Add("cmd_Reset", form.cmd_Reset).Click(cmd_Reset_Click);
 }
 
-void AddMadPanel(Table& table, frmField& form) {
+void AddMadPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeMAD", form.ShapeMAD);
     table.Add("lblCurrMAD", form.lblCurrMAD);
     table.Add("lblNewMAD", form.lblNewMAD);
@@ -176,7 +176,7 @@ void AddMadPanel(Table& table, frmField& form) {
     table.Add("cmdMADCanc", form.cmdMADCanc).Click(form_clear).Exit();
 }
 
-void AddEfficiencyPanel(Table& table, frmField& form) {
+void AddEfficiencyPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeIRR", form.ShapeIRR);
     table.Add("lblCurrIRR", form.lblCurrIRR);
     table.Add("lblNewIRR", form.lblNewIRR);
@@ -185,7 +185,7 @@ void AddEfficiencyPanel(Table& table, frmField& form) {
     table.Add("cmdIRRCanc", form.cmdIRRCanc).Click(form_clear).Exit();
 }
 
-void AddFieldMenus(Table& table, frmField& form) {
+void AddFieldMenus(MenuTable& table, frmField& form) {
     table.Add("m_displays", form.m_displays).Click(m_displays_Click);
     table.Add("mnuInit", form.mnuInit);
     table.Add("mnuSelect", form.mnuSelect).Click(mnuSelect_Click);
@@ -204,7 +204,7 @@ void AddFieldMenus(Table& table, frmField& form) {
     table.Add("mnuSeasonChart", form.mnuSeasonChart).Click(mnuSeasonChart_Click);
 }
 
-void AddReportMenus(Table& table, frmField& form) {
+void AddReportMenus(MenuTable& table, frmField& form) {
     table.Add("mnuRep", form.mnuRep);
     table.Add("mnuIrrSchedule", form.mnuIrrSchedule);
     table.Add("m_iprint", form.m_iprint).Click(m_iprint_Click);
@@ -216,7 +216,7 @@ void AddReportMenus(Table& table, frmField& form) {
     table.Add("mnuHarvested", form.mnuHarvested).Click(mnuHarvested_Click);
 }
 
-void AddOtherMenus(Table& table, frmField& form) {
+void AddOtherMenus(MenuTable& table, frmField& form) {
     table.Add("mconfig", form.mconfig);
     table.Add("mbackground", form.mbackground);
     table.Add("mgeese1", form.mgeese1).Click(mgeese1_Click);
@@ -235,7 +235,7 @@ bool IsAlwaysThere(const frmField& form, const ControlEntry& entry) {
 }  // namespace
 
 FormTable TableOf(frmField& form) {
-    Table table(form, FormName::frmField, "frmField");
+    MenuTable table(form, FormName::frmField, "frmField");
     AddChoice(table, form);
     AddFieldShown(table, form);
     AddDepletionPanel(table, form);
