@@ -121,6 +121,12 @@ bool RunEvent(FormTable& form, const ControlEntry& control, Event event) {
     return function == control.Events.end() || AsEvent(form, function->second);
 }
 
+void Choose(FormTable& form, OptionButton& option) {
+    for (ControlEntry& other : form.Controls)
+        if (OptionButton* const* one = std::get_if<OptionButton*>(&other.Where)) (*one)->Chosen = false;
+    option.Chosen = true;
+}
+
 void CloseForm(FormTable& form) {
     AsEvent(form, [&form] {
         if (form.Close)

@@ -43,6 +43,9 @@ bool IsLoaded(FormName name);
 /// event: the screen is told, the field in work is as on disk again, and the result is false.
 bool RunEvent(FormTable& form, const ControlEntry& control, Event event);
 
+/// Chooses an option: the options of one form are one group.
+void Choose(FormTable& form, OptionButton& option);
+
 /// Presses the form's leave button for the user who closes the window by its frame or Esc.
 void CloseForm(FormTable& form);
 

@@ -17,15 +17,6 @@ Overloaded(Kinds...) -> Overloaded<Kinds...>;
     throw std::logic_error(std::string(form.Text) + "." + std::string(name) + " " + std::string(why));
 }
 
-/// What a click does to the control itself: options of one form are one group.
-void Clicked(FormTable& form, ControlEntry& control) {
-    OptionButton* const* option = std::get_if<OptionButton*>(&control.Where);
-    if (option == nullptr) return;
-    for (ControlEntry& other : form.Controls)
-        if (OptionButton* const* one = std::get_if<OptionButton*>(&other.Where)) (*one)->Chosen = false;
-    (*option)->Chosen = true;
-}
-
 }  // namespace
 
 void HeadlessScreen::RunModal(FormTable& form) {
@@ -72,7 +63,7 @@ At& At::Click(std::string_view name) {
     ControlEntry& control = Usable(name);
     const bool takesFocus = !std::holds_alternative<MenuItem*>(control.Where);
     if (takesFocus ? !Reach(control) : held_) return *this;
-    Clicked(*form_, control);
+    if (OptionButton* const* option = std::get_if<OptionButton*>(&control.Where)) Choose(*form_, **option);
     RunEvent(*form_, control, Event::Click);
     return *this;
 }

@@ -29,6 +29,9 @@ struct PrintedLine {
 struct PrintedDocument {
     std::string Title;  ///< for the print dialog and the file name of a PDF
     std::vector<PrintedLine> Lines;
+    std::size_t HeadingFirst = 0;  ///< first of the lines that head a table: each further page begins with them anew
+    std::size_t HeadingCount = 0;  ///< 0: no table
+    bool OnOnePage = false;        ///< in smaller letters rather than on several pages, as long as it can be read
 };
 
 enum class PrintEnding {

@@ -1,0 +1,42 @@
+#include "desktop/app.h"
+
+#include <QIcon>
+#include <cstdlib>
+
+#include "desktop/qt_screen.h"
+#include "desktop/theme.h"
+#include "reports/forms.h"
+#include "screen/forms.h"
+#include "shell/forms.h"
+#include "weather/forms/forms.h"
+#include "workbench/forms.h"
+
+namespace veraqua {
+
+void PrepareApplication(QApplication& app) {
+    Q_INIT_RESOURCE(pictures);
+    QApplication::setOrganizationName("veraqua");
+    QApplication::setApplicationName("veraqua");
+    QApplication::setApplicationDisplayName({});  // the windows have titles of their own
+    QGuiApplication::setDesktopFileName("veraqua");
+    QApplication::setWindowIcon(QIcon(":/pictures/veraqua.svg"));
+    QApplication::setQuitOnLastWindowClosed(false);  // a form that hides another one is no end
+    ApplyTheme(app, ThemeOfDesktop(app));
+    AddWorkbenchForms();
+    AddReportForms();
+    AddWeatherForms();
+    AddShellForms();
+}
+
+int RunDesktop(QApplication&) {
+    QtScreen screen;
+    try {
+        Show(FormName::frmVeraqua);
+    } catch (const RunTimeFailure& failure) {
+        screen.Failed(failure);
+        return EXIT_FAILURE;
+    }
+    return QApplication::exec();
+}
+
+}  // namespace veraqua

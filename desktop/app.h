@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QApplication>
+
+namespace veraqua {
+
+/// Sets the program's name, icon and theme, and makes all forms known.
+void PrepareApplication(QApplication& app);
+
+/// Shows the main menu and runs the program to its end. Gives the exit status.
+int RunDesktop(QApplication& app);
+
+}  // namespace veraqua

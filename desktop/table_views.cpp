@@ -1,0 +1,256 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <algorithm>
+
+#include "desktop/text.h"
+#include "desktop/widget_view.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr int SortRole = Qt::UserRole + 1;
+constexpr int RowRole = Qt::UserRole + 2;  ///< place of the row in the record
+
+/// What is selected, as a table of texts with its headings, for other programs.
+QString SelectedText(const QTableView& view) {
+    QModelIndexList cells = view.selectionModel()->selectedIndexes();
+    std::ranges::sort(cells, [](const QModelIndex& a, const QModelIndex& b) {
+        return std::pair(a.row(), a.column()) < std::pair(b.row(), b.column());
+    });
+    QStringList lines{{}};
+    for (int column = 0; column < view.model()->columnCount(); ++column)
+        lines.back() += (column == 0 ? "" : "\t") + view.model()->headerData(column, Qt::Horizontal).toString();
+    lines.back().replace('\n', ' ');
+    int row = -1;
+    for (const QModelIndex& cell : cells) {
+        if (std::exchange(row, cell.row()) == cell.row())
+            lines.back() += "\t" + cell.data().toString();
+        else
+            lines.append(cell.data().toString());
+    }
+    return lines.join('\n');
+}
+
+/// Ctrl+C, by which a table of the toolkit copies one cell only.
+class CopyKey : public QObject {
+  public:
+    explicit CopyKey(QTableView& view) : QObject(&view), view_(&view) { view.installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+            return false;
+        QApplication::clipboard()->setText(SelectedText(*view_));
+        return true;
+    }
+
+  private:
+    QTableView* view_;
+};
+
+/// A table view with what all tables here share: whole rows are selected, sorted by a click on a heading, and copied.
+class TableParts {
+  public:
+    explicit TableParts(QTableView& view) : view_(&view) {
+        sorted_.setSourceModel(&cells_);
+        sorted_.setSortRole(SortRole);
+        view.setModel(&sorted_);
+        view.setSelectionBehavior(QAbstractItemView::SelectRows);
+        view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+        view.setAlternatingRowColors(true);
+        view.setShowGrid(false);
+        view.setWordWrap(false);
+        view.setTabKeyNavigation(false);
+        view.verticalHeader()->hide();
+        view.horizontalHeader()->setHighlightSections(false);
+        view.horizontalHeader()->setSortIndicatorClearable(true);
+        view.horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+        view.setSortingEnabled(true);
+        new CopyKey(view);
+    }
+
+    QStandardItemModel& Cells() { return cells_; }
+
+    /// After the cells have been filled.
+    void Fit() {
+        view_->resizeColumnsToContents();
+        view_->resizeRowsToContents();
+    }
+
+    int RecordRowOf(const QModelIndex& shown) const {
+        return shown.isValid() ? shown.siblingAtColumn(0).data(RowRole).toInt() : -1;
+    }
+
+    void SelectRecordRow(int row) {
+        if (row < 0) return view_->clearSelection();
+        view_->selectRow(sorted_.mapFromSource(cells_.index(row, 0)).row());
+    }
+
+  private:
+    QTableView* view_;
+    QStandardItemModel cells_;
+    QSortFilterProxyModel sorted_;
+};
+
+QStandardItem* MakeCell(const QString& text, bool toTheRight) {
+    auto* item = new QStandardItem(text);
+    item->setTextAlignment((toTheRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return item;
+}
+
+class TableHolder : public WidgetView<Table, QTableView> {
+  public:
+    TableHolder(ControlEntry& entry, Table& table, QTableView& shown, ControlEvents& events)
+        : WidgetView(entry, table, shown, events), parts_(shown) {
+        shown.setSelectionMode(QAbstractItemView::SingleSelection);
+        QObject::connect(&shown, &QTableView::activated, &shown, [this](const QModelIndex& index) {
+            Picked([&] { Record().Index = parts_.RecordRowOf(index); });
+        });
+        QObject::connect(shown.selectionModel(), &QItemSelectionModel::currentRowChanged, &shown,
+                         [this](const QModelIndex& current) {
+                             if (!IsBringing()) Record().Index = parts_.RecordRowOf(current);
+                         });
+    }
+
+  private:
+    void BringOwn() override {
+        if (Record().Rows != filled_ || parts_.Cells().columnCount() == 0) Refill();
+        parts_.SelectRecordRow(Record().Index);
+    }
+
+    void Refill() {
+        filled_ = Record().Rows;
+        QStandardItemModel& cells = parts_.Cells();
+        cells.clear();
+        QStringList headings;
+        for (const Table::Column& column : Record().Columns) headings.append(ToQt(column.Heading));
+        cells.setHorizontalHeaderLabels(headings);
+        for (const Table::Row& row : filled_) cells.appendRow(ItemsOf(row, cells.rowCount()));
+        for (int column = 0; column < cells.columnCount(); ++column)
+            if (IsNumeric(column))
+                cells.horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        parts_.Fit();
+    }
+
+    bool IsNumeric(int column) const { return Record().Columns[static_cast<std::size_t>(column)].IsNumeric; }
+
+    QList<QStandardItem*> ItemsOf(const Table::Row& row, int place) const {
+        QList<QStandardItem*> items;
+        for (const Table::Cell& cell : row.Cells) {
+            QStandardItem* item = MakeCell(ToQt(cell.Text), IsNumeric(static_cast<int>(items.size())));
+            item->setData(cell.SortKey ? QVariant(*cell.SortKey) : QVariant(ToQt(cell.Text)), SortRole);
+            item->setData(place, RowRole);
+            if (cell.Background) {
+                item->setBackground(QColor(cell.Background->Red, cell.Background->Green, cell.Background->Blue));
+                item->setForeground(Qt::black);
+            }
+            items.append(item);
+        }
+        return items;
+    }
+
+    TableParts parts_;
+    std::vector<Table::Row> filled_;
+};
+
+/// Lines of a text in columns, which are told apart by blanks. A text with other lines is a notice in place of the
+/// table.
+class ListingView : public WidgetView<TextBox, QTableView> {
+  public:
+    ListingView(ControlEntry& entry, TextBox& box, QTableView& shown, ControlEvents& events, FormTable& form)
+        : WidgetView(entry, box, shown, events), parts_(shown), notice_(&shown) {
+        for (const QString& heading : shown.property("headings").toString().split(' ', Qt::SkipEmptyParts))
+            headings_.push_back(LabelsOf(heading, form));
+        notice_.setAlignment(Qt::AlignCenter);
+        notice_.setWordWrap(true);
+        notice_.setTextFormat(Qt::PlainText);
+    }
+
+  private:
+    using Headings = std::vector<const Label*>;
+
+    /// The labels whose captions make one heading; control names have "(2)" where the design has "_2".
+    static Headings LabelsOf(const QString& heading, FormTable& form) {
+        Headings labels;
+        for (const QString& name : heading.split('+'))
+            for (const ControlEntry& entry : form.Controls)
+                if (WidgetName(entry.Name) == name) labels.push_back(std::get<Label*>(entry.Where));
+        return labels;
+    }
+
+    void BringOwn() override {
+        const QStringList headings = HeadingTexts();
+        if (filled_ != Record().Text || headings != shownHeadings_) Refill(headings);
+        notice_.setGeometry(Shown().rect());
+    }
+
+    QStringList HeadingTexts() const {
+        QStringList texts;
+        for (const Headings& labels : headings_) {
+            QStringList parts;
+            for (const Label* label : labels)
+                if (!label->Caption.empty()) parts.append(PlainCaption(label->Caption).simplified());
+            texts.append(parts.join('\n'));
+        }
+        return texts;
+    }
+
+    void Refill(const QStringList& headings) {
+        filled_ = Record().Text;
+        shownHeadings_ = headings;
+        QStandardItemModel& cells = parts_.Cells();
+        cells.clear();
+        cells.setHorizontalHeaderLabels(headings);
+        const QStringList lines = ToQt(filled_).split('\n');
+        const bool isTable = std::ranges::all_of(
+            lines, [&](const QString& line) { return line.split(' ', Qt::SkipEmptyParts).size() == headings.size(); });
+        if (isTable)
+            for (const QString& line : lines) cells.appendRow(ItemsOf(line.split(' ', Qt::SkipEmptyParts)));
+        QStringList notice;
+        for (const QString& line : lines) notice.append(line.trimmed());
+        notice_.setText(notice.join('\n').trimmed());
+        notice_.setVisible(!isTable);
+        Shown().horizontalHeader()->setVisible(isTable);
+        if (isTable) parts_.Fit();
+    }
+
+    /// The first column is the day, which sorts by its year first.
+    static QList<QStandardItem*> ItemsOf(const QStringList& texts) {
+        QList<QStandardItem*> items;
+        for (const QString& text : texts) {
+            QStandardItem* item = MakeCell(text, !items.isEmpty());
+            bool isNumber = false;
+            const double number = text.toDouble(&isNumber);
+            item->setData(isNumber ? QVariant(number) : QVariant(text.section('-', 2, 2) + text), SortRole);
+            items.append(item);
+        }
+        return items;
+    }
+
+    TableParts parts_;
+    QLabel notice_;
+    std::vector<Headings> headings_;
+    QStringList shownHeadings_;
+    std::string filled_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeTable(ControlEntry& entry, Table& table, QWidget* widget, ControlEvents& events) {
+    return ViewOn<TableHolder, QTableView>(entry, table, widget, events);
+}
+
+std::unique_ptr<ControlView> MakeListing(ControlEntry& entry, TextBox& box, QWidget* widget, FormTable& form,
+                                         ControlEvents& events) {
+    auto* shown = dynamic_cast<QTableView*>(widget);
+    return shown == nullptr ? nullptr : std::make_unique<ListingView>(entry, box, *shown, events, form);
+}
+
+}  // namespace veraqua
