@@ -116,7 +116,7 @@ bool ManualPage::FindNext(const QString& words, bool backwards) {
 }
 
 QVariant ManualPage::loadResource(int type, const QUrl& name) {
-    const QVariant resource = QTextBrowser::loadResource(type, name);
+    QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) return resource;
     QPixmap& picture = pictures_[name];
     picture.loadFromData(resource.toByteArray());
