@@ -4,10 +4,10 @@
 
 #include <fmt/format.h>
 
-#include "cli/text_table.h"
 #include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "core/text_table.h"
 #include "core/units.h"
 
 namespace veraqua {

@@ -41,7 +41,7 @@ void PrintHistory(const FieldHistory& form, bool isHay) {
     PrintedDocument document;
     document.Title = "Field History " + form.txtID.Text;
     AddLines(document, TableFont, {"", " FIELD HISTORY", " " + form.Caption, ""});
-    AddLines(document, TableFont, PrintedHistory(form.Lines, isHay, State.EnglishUnits));
+    AddTable(document, TableFont, PrintedHistory(form.Lines, isHay, State.EnglishUnits), DayTableHeadings);
     PrintDocument(document, "Field Histroy Report was sent to your default printer");
 }
 

@@ -31,7 +31,7 @@ PrintedDocument PrintedFieldReport(const FieldReport& report, JulianValue today)
     AddLines(document, TextFont, {""});
     for (const std::string& line : SoilAndPredictionLines(report)) AddLines(document, TextFont, {WithoutTabs(line)});
     AddLines(document, TableFont, {"", " FIELD HISTORY"});
-    AddLines(document, TableFont, report.History);
+    AddTable(document, TableFont, report.History, DayTableHeadings);
     return document;
 }
 

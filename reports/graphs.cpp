@@ -8,6 +8,7 @@
 #include "core/directory.h"
 #include "core/numbers.h"
 #include "core/state.h"
+#include "reports/depletion_warning.h"
 #include "reports/field_days.h"
 #include "reports/stored_field.h"
 #include "screen/forms.h"
@@ -16,9 +17,6 @@
 namespace veraqua {
 
 namespace {
-
-/// A depletion above this multiple of the MAD is an alarm.
-constexpr double AlarmFactor = 1.2;
 
 JulianValue SortDateOf(const StatRecord& row) {
     if (row.NextIrrAmount < 0) return HarvestDueDate;
@@ -48,11 +46,7 @@ std::vector<GraphRow> GraphRows() {
 }
 
 void Colour(frmFieldGraph& panel, const GraphRow& row) {
-    std::optional<veraqua::Colour> warning;
-    if (row.Depletion > AlarmFactor * row.MadNow)
-        warning = colours::Red;
-    else if (row.Depletion > row.MadNow)
-        warning = colours::Yellow;
+    const std::optional<veraqua::Colour> warning = DepletionWarning(row.Depletion, row.MadNow);
     panel.Background = warning;
     for (Label* label : {&panel.lbl_WaterContent, &panel.lbl_amount, &panel.lbl_MAD, &panel.lbl_depl})
         label->Background = warning;

@@ -6,4 +6,11 @@ void AddLines(PrintedDocument& document, const Font& face, const std::vector<std
     for (const std::string& line : lines) document.Lines.push_back({line, face});
 }
 
+void AddTable(PrintedDocument& document, const Font& face, const std::vector<std::string>& lines,
+              std::size_t headings) {
+    document.HeadingFirst = document.Lines.size();
+    document.HeadingCount = headings;
+    AddLines(document, face, lines);
+}
+
 }  // namespace veraqua

@@ -19,8 +19,6 @@ namespace veraqua {
 
 namespace {
 
-const Font TitleFont{"Rockwell", 12};
-
 /// What is to be done at a field stands on a line, and for hay on a second one.
 struct ScheduleEntry {
     int Row = 0;
@@ -90,9 +88,10 @@ PrintedDocument PrintedSchedule(Ask& ask) {
     AddLines(document, TitleFont,
              {"", "", "    IRRIGATION PREDICTIONS as of " + JulianToLongText(ask.Now()),
               "    - Also includes cutting predictions for hay", ""});
-    AddLines(document, TableFont,
+    AddTable(document, TableFont,
              {Columns("  FIELD ID     ", "CROP NAME", "      LAST WEATHER/DEPL. ", "LAST IRR.", "NEXT IRR."),
-              "  " + std::string(104, '=')});
+              "  " + std::string(104, '=')},
+             2);
     for (const ScheduleEntry& entry : SortedEntries(ask)) {
         State.Stat[entry.Row].Depletion = entry.Depletion;
         AddLines(document, TableFont, entry.Lines);

@@ -1,8 +1,11 @@
 #include "shell/main_menu.h"
 
+#include <cstdint>
+
 #include "core/directory.h"
 #include "core/files.h"
 #include "core/state.h"
+#include "reports/today_list.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "shell/data_search.h"
@@ -50,6 +53,32 @@ void cmdfields_Click(frmVeraqua&) {
     Fill(FormName::frmField);
 }
 
+void ShowToday(frmVeraqua& form) {
+    FillTodayList(form.Today);
+    const bool hasFields = !form.Today.Rows.empty();
+    form.lblTodayNote.Caption = hasFields ? TodaySummary() + " Open a field with a double click or Enter."
+                                          : "No fields yet. Click on Field Options to add one.";
+    form.cmdOpenToday.Enabled = hasFields;
+    form.cmdPrintToday.Enabled = hasFields;
+}
+
+void Today_Click(frmVeraqua& form) {
+    const Table::Row* row = form.Today.Selected();
+    if (row == nullptr) return;
+    GoTo(FormName::frmField);  // which forgets, where it is loaded anew, the field in work
+    State.CurrentField = static_cast<std::int16_t>(row->Data);
+    Fill(FormName::frmField);
+}
+
+void cmdOpenToday_Click(frmVeraqua& form) {
+    if (form.Today.Selected() == nullptr) form.Today.Index = 0;
+    Today_Click(form);
+}
+
+void cmdPrintToday_Click(frmVeraqua& form) {
+    PrintDocument(PrintedTodayList(form.Today), "The list of fields was sent to your default printer");
+}
+
 void cmdWeather_Click(frmVeraqua&) {
     State.CallerForm = "frmVeraqua";
     GoTo(FormName::frmWeather);
@@ -93,8 +122,13 @@ FormTable TableOf(frmVeraqua& form) {
     table.Add("cmdHelp", form.cmdHelp).Click(cmdHelp_Click);
     table.Add("Label8", form.Label8);
     table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
+    table.Add("lblToday", form.lblToday);
+    table.Add("Today", form.Today).Click(Today_Click);
+    table.Add("lblTodayNote", form.lblTodayNote);
+    table.Add("cmdOpenToday", form.cmdOpenToday).Click(cmdOpenToday_Click);
+    table.Add("cmdPrintToday", form.cmdPrintToday).Click(cmdPrintToday_Click);
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Close(cmdExit_Click).Unload(Unloaded);
+    table.Load(Load).Appear(ShowToday).Fill(ShowToday).Close(cmdExit_Click).Unload(Unloaded);
     return table.Done();
 }
 

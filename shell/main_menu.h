@@ -21,6 +21,14 @@ struct frmVeraqua : Form {
     Button cmdHelp{"HELP"};
     Label Label8{"Exit"};
     Button cmdExit;
+
+    // What is to be done today, as of each time that this window comes up
+    Label lblToday{"Today"};
+    Table Today;  ///< a field in each row; opening it goes to the field
+    Label lblTodayNote;
+    Button cmdOpenToday{"Open field"};
+    Button cmdPrintToday{"Print list"};
+
     StatusBar StatusBar1;
 };
 

@@ -9,8 +9,10 @@
 #include "shell/data_path.h"
 #include "shell/forms.h"
 #include "shell/main_menu.h"
+#include "tests/support/builders.h"
 #include "tests/support/script_screen.h"
 #include "weather/forms/forms.h"
+#include "workbench/field_menu.h"
 #include "workbench/forms.h"
 
 namespace veraqua {
@@ -89,6 +91,33 @@ TEST_F(ShellTest, MakesADirectoryForANewUserOrEnds) {
     FormOf(FormName::frmVeraqua).Loaded = false;
     EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
     EXPECT_THAT(User.LastSaid(), HasSubstr("weathdef.dat"));
+}
+
+TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
+    const std::string path = Make("home/veraqua");
+    Show(FormName::frmVeraqua);
+    frmVeraqua& form = The<frmVeraqua>();
+    EXPECT_EQ(form.lblTodayNote.Caption, "No fields yet. Click on Field Options to add one.");
+    EXPECT_THROW(At(FormName::frmVeraqua).Click("cmdOpenToday"), std::logic_error);
+    AField().Id("FULL").StoreAt(1);
+    AField().Id("DRY").StoreAt(2);
+    State.Stat[2].Depletion = 90;
+    // Known through today, so that nobody is sent for weather.
+    State.TodayJulian = State.Stat[1].LastDay = State.Stat[2].LastDay = State.WeatherLastJulian = User.Today;
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(form.lblTodayNote.Caption, "2 fields, 1 needs water. Open a field with a double click or Enter.");
+    At(FormName::frmVeraqua).Pick("Today", 1);
+    EXPECT_EQ(State.CurrentField, 1);
+    EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
+    EXPECT_EQ(The<frmField>().lbl_ID.Caption, "Field ID is:  FULL");
+    At(FormName::frmField).Click("cmd_return");
+    form.Today.Index = -1;
+    At(FormName::frmVeraqua).Click("cmdOpenToday");  // the worst
+    EXPECT_EQ(State.CurrentField, 2);
+    At(FormName::frmField).Close();
+    At(FormName::frmVeraqua).Click("cmdPrintToday");
+    EXPECT_EQ(User.Printed.back().Title, "Veraqua fields today 07-15-2003");
+    EXPECT_EQ(User.Told.back().Text, "The list of fields was sent to your default printer");
 }
 
 struct Options : ShellTest {

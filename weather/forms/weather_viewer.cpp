@@ -14,6 +14,7 @@
 #include "core/numbers.h"
 #include "core/state.h"
 #include "core/text.h"
+#include "reports/printed_lines.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -143,17 +144,15 @@ std::vector<std::string> Headings() {
 }
 
 PrintedDocument DocumentOf(const Listing& listing) {
-    const Font title{"Times Roman", 12};
-    const Font table{"Courier New", 9};
-    PrintedDocument document{"Veraqua weather data", {}};
-    for (const std::string& text :
-         {std::string(), std::string(),
-          fmt::format("Veraqua weather data from {} to {}", listing.FirstDay(), listing.LastDay()), std::string(),
-          Blanks(4) + "KESTA Name is: " + State.StationName, "KESTA Station # is: " + State.StationCode, std::string(),
-          std::string(), std::string()})
-        document.Lines.push_back({text, title});
-    for (const std::string& text : Headings()) document.Lines.push_back({text, table});
-    for (const std::string& text : listing.Lines) document.Lines.push_back({text, table});
+    PrintedDocument document;
+    document.Title = "Veraqua weather data";
+    AddLines(
+        document, Font{"Times Roman", 12},
+        {"", "", fmt::format("Veraqua weather data from {} to {}", listing.FirstDay(), listing.LastDay()), "",
+         Blanks(4) + "KESTA Name is: " + State.StationName, "KESTA Station # is: " + State.StationCode, "", "", ""});
+    const std::vector<std::string> headings = Headings();
+    AddTable(document, TableFont, headings, headings.size());
+    AddLines(document, TableFont, listing.Lines);
     return document;
 }
 

@@ -1,0 +1,120 @@
+#include "reports/today_list.h"
+
+#include <algorithm>
+
+#include <gmock/gmock.h>
+
+#include "core/state.h"
+#include "tests/support/data_directory.h"
+#include "tests/support/report_fields.h"
+
+namespace veraqua {
+namespace {
+
+/// The fields of 4 May 2003, known through the day before.
+struct TodayOfFields : DirectoryTest {
+    Table List;
+
+    TodayOfFields() { State.TodayJulian = MayDay(4); }
+
+    /// At 40 % of a MAD of 50 %.
+    static StatRecord& Field(int row, std::string_view id, std::int16_t amount, JulianValue irrigation = 0,
+                             std::int16_t depletion = 40) {
+        StatRecord& field = State.Stat[row] = {{}, {}, MayDay(3), depletion, 50, irrigation, 0, amount};
+        return field.FieldId = id, field.CropName = "MAIZE GRAIN", field;
+    }
+
+    static std::string Shown(const Table::Cell& cell) {
+        const char* colour = !cell.Background                     ? ""
+                             : cell.Background == colours::Red    ? " (red)"
+                             : cell.Background == colours::Yellow ? " (yellow)"
+                                                                  : " (green)";
+        return (cell.Text.empty() ? "-" : cell.Text) + colour;
+    }
+
+    /// A line for each row: the cells with their colours, "-" for an empty one.
+    std::vector<std::string> Lines(const std::vector<std::string_view>& headings) {
+        std::vector<std::string> lines;
+        FillTodayList(List);
+        for (const Table::Row& row : List.Rows) {
+            std::string line;
+            for (std::size_t i = 0; i < List.Columns.size(); ++i)
+                if (std::ranges::count(headings, List.Columns[i].Heading) > 0)
+                    line += (line.empty() ? "" : "; ") + Shown(row.Cells[i]);
+            lines.push_back(line);
+        }
+        return lines;
+    }
+};
+
+TEST_F(TodayOfFields, StandWorstFirstInWordsAndColours) {
+    Field(1, "NEW", AmountNoDataYet).LastDay = MayDay(1);
+    Field(2, "RIPE", AmountHarvest);
+    Field(3, "WET", AmountNotRequired, 0, -3);
+    Field(4, "LATER", 43, MayDay(7));
+    Field(5, "IN TWO", 43, MayDay(6), 45);
+    Field(6, "TOMORROW", 43, MayDay(5));
+    Field(7, "DRY", 43, MayDay(3), 60);
+    Field(8, "DRIER", 43, MayDay(2), 61);
+    Field(9, "STOPPED", AmountNoDataYet, 0, 51);
+    Field(100, "DUE", 43, MayDay(4), 50);  // behind rows whose files are lost
+    EXPECT_THAT(Lines({"Field", "What to do", "Irrigate on", "Amount (in.)", "Days left", "Depletion %"}),
+                testing::ElementsAre("DRIER; Irrigate now (red); 05-02-03; 1.69; 0; 61 (red)",
+                                     "DRY; Irrigate now (red); 05-03-03; 1.69; 0; 60 (yellow)",
+                                     "DUE; Irrigate now (red); 05-04-03; 1.69; 0; 50",
+                                     "STOPPED; Over MAD (yellow); -; -; -; 51 (yellow)",
+                                     "TOMORROW; Irrigate tomorrow (yellow); 05-05-03; 1.69; 1; 40",
+                                     "IN TWO; Irrigate in 2 days (yellow); 05-06-03; 1.69; 2; 45",
+                                     "LATER; Irrigate in 3 days (green); 05-07-03; 1.69; 3; 40",
+                                     "WET; No irrigation needed (green); -; -; -; Full",
+                                     "RIPE; Harvest (green); -; -; -; 40", "NEW; No data yet; -; -; -; 40"));
+    EXPECT_EQ(TodaySummary(), "10 fields, 3 need water. Weather is up to 2 days behind.");
+    EXPECT_EQ(List.Rows[2].Data, 100);
+    List.Index = 6;
+    State.Stat[100] = {};  // harvested
+    State.EnglishUnits = false;
+    EXPECT_EQ(Lines({"Field", "Amount (mm)"})[5], "LATER; 43");
+    EXPECT_EQ(List.Index, 5);                               // still the same field
+    EXPECT_GT(*List.Rows[7].Cells[3].SortKey, MayDay(31));  // nothing stands behind any day
+}
+
+TEST_F(TodayOfFields, TellThroughWhichDayTheyAreKnown) {
+    State.TodayJulian = MayDay(20);
+    Field(1, "STALE", 43, MayDay(25));
+    Field(2, "RIPE", AmountHarvest).NextIrrDay = 0;  // its season is over: no weather is missing
+    Field(3, "BY HAND", 43, MayDay(19), 70).LastDay = MayDay(18);
+    State.Updates[3] = MayDay(19);  // waits for water, whatever the weather
+    Field(4, "WEEK OLD", 43, MayDay(25)).LastDay = MayDay(12);
+    State.Updates[4] = MayDay(13);
+    Field(5, "AHEAD", 43, MayDay(25)).LastDay = MayDay(22);  // the user has put an earlier day in today's place
+    StatRecord& hay = Field(6, "CREEK", 43, MayDay(25));
+    hay.CropName = "@ALFALFA";
+    hay.LastDay = MayDay(18);
+    EXPECT_THAT(Lines({"Field", "Next cutting", "Computed through", "Weather behind"}),
+                testing::ElementsAre("BY HAND; -; 05-19-03; -", "STALE; -; 05-03-03; 16 days (yellow)",
+                                     "WEEK OLD; -; 05-13-03; 6 days (yellow)", "AHEAD; -; 05-20-03; -",
+                                     "CREEK; No Data Yet!; 05-18-03; 1 day", "RIPE; -; 05-03-03; -"));
+    hay.NextCutDay = MayDay(30);
+    EXPECT_EQ(Lines({"Next cutting"})[4], "05-30-03");
+    EXPECT_EQ(TodaySummary(), "6 fields, 1 needs water. Weather is up to 16 days behind.");
+}
+
+TEST_F(TodayOfFields, ArePrintedOnOnePageInTheWidthOfTheSchedule) {
+    Field(1, "NÖRD 40 EA", 3048, MayDay(5) + 98, 100).CropName = "SPRING BARLEY";
+    Field(2, "WEST", AmountNotRequired).NextCutDay = MayDay(30);
+    State.Stat[2].CropName = "@BERMUDA HAY";
+    State.Stat[1].LastDay = MayDay(3) - 99;
+    FillTodayList(List);
+    const PrintedDocument paper = PrintedTodayList(List);
+    EXPECT_TRUE(paper.OnOnePage);
+    ASSERT_EQ(paper.HeadingFirst + paper.HeadingCount + 4, paper.Lines.size());
+    for (const PrintedLine& line : paper.Lines) EXPECT_LE(line.Text.size(), 104U);
+    const std::string& first = paper.Lines[paper.Lines.size() - 4].Text;
+    const std::string& second = paper.Lines[paper.Lines.size() - 3].Text;
+    EXPECT_THAT(first, testing::HasSubstr("Irrigate in 99 days  08-11-03 120.00"));
+    EXPECT_EQ(first.find("SPRING"), second.find("@BERMUDA") + 1);  // the letter of two bytes is as wide as another
+    EXPECT_EQ(paper.Lines.back().Text, "2 fields, 1 needs water. Weather is up to 99 days behind.");
+}
+
+}  // namespace
+}  // namespace veraqua
