@@ -11,10 +11,16 @@
 #include "weather/forms/forms.h"
 #include "workbench/forms.h"
 
+/// What the linker would leave out of a library; by the toolkit's rule outside of all namespaces.
+static void TakeResources() {
+    Q_INIT_RESOURCE(pictures);
+    Q_INIT_RESOURCE(manual);
+}
+
 namespace veraqua {
 
 void PrepareApplication(QApplication& app) {
-    Q_INIT_RESOURCE(pictures);
+    TakeResources();
     QApplication::setOrganizationName("veraqua");
     QApplication::setApplicationName("veraqua");
     QApplication::setApplicationDisplayName({});  // the windows have titles of their own

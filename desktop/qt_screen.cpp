@@ -32,7 +32,7 @@ QMessageBox::Icon IconOf(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButton Ask(std::string_view text, std::string_view title, Icon icon,
+QMessageBox::StandardButton AnswerTo(std::string_view text, std::string_view title, Icon icon,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton standard) {
     QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
@@ -148,13 +148,13 @@ void QtScreen::Tell(std::string_view text, std::string_view title, Icon icon) {
     told_ = ToQt(text);
     EndProgress();
     BringAll();
-    Ask(text, title, icon, QMessageBox::Ok, QMessageBox::Ok);
+    AnswerTo(text, title, icon, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool QtScreen::YesNo(std::string_view text, std::string_view title, Icon icon, bool noIsDefault) {
     EndProgress();
     BringAll();
-    return Ask(text, title, icon, QMessageBox::Yes | QMessageBox::No,
+    return AnswerTo(text, title, icon, QMessageBox::Yes | QMessageBox::No,
                noIsDefault ? QMessageBox::No : QMessageBox::Yes) == QMessageBox::Yes;
 }
 

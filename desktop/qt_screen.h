@@ -18,7 +18,7 @@
 namespace veraqua {
 
 /// The program's screen with real windows. A window is made when its form is first shown, and kept.
-class QtScreen : public Screen, private WindowEvents {
+class QtScreen : public Screen, public WindowEvents {
   public:
     QtScreen();
     ~QtScreen() override;
