@@ -47,10 +47,11 @@ void TextTable::Add(std::vector<std::string> cells) {
 std::vector<std::string> TextTable::Lines(std::size_t longest) const {
     const std::size_t width = std::accumulate(widths_.begin(), widths_.end(), 2 * (columns_.size() - 1));
     const std::string gap(width <= longest ? 2 : 1, ' ');
-    std::vector<std::string> rules;
-    for (const std::size_t columnWidth : widths_) rules.emplace_back(columnWidth, '-');
     std::vector<std::string> lines;
+    lines.reserve(headings_.size() + 1 + rows_.size());
     for (const auto& heading : headings_) lines.push_back(Line(heading, gap));
+    std::vector<std::string> rules(columns_.size());
+    for (std::size_t i = 0; i < rules.size(); ++i) rules[i].assign(widths_[i], '-');
     lines.push_back(Line(rules, gap));
     for (const auto& row : rows_) lines.push_back(Line(row, gap));
     return lines;
