@@ -18,9 +18,6 @@
 #include "desktop/theme.h"
 #include "desktop/window_place.h"
 
-// Outside of the namespace: the resource's own function has none.
-static void TakeInManual() { Q_INIT_RESOURCE(manual); }
-
 namespace veraqua {
 
 namespace {
@@ -190,14 +187,12 @@ void ManualWindow::closeEvent(QCloseEvent* event) {
 
 void ShowManual(QWidget* over, const QString& anchor) {
     static QPointer<ManualWindow> window;
-    TakeInManual();
     if (window == nullptr) window = new ManualWindow;
     window->ComeUp(over);
     window->GoTo(anchor);
 }
 
 QStringList ManualAnchors() {
-    TakeInManual();
     QStringList anchors;
     for (const ManualPage::Section& section : ManualPage(nullptr).Sections()) anchors << section.Id;
     return anchors;
