@@ -1,0 +1,37 @@
+#pragma once
+
+#include <vector>
+
+#include "core/calendar.h"
+#include "screen/chart.h"
+
+/// The scales of a chart. On the day axis a day lies at its Julian Value and reaches half a day to both sides.
+namespace veraqua {
+
+struct DayRange {
+    double First = 0;
+    double Last = 0;
+
+    double Length() const { return Last - First; }
+    bool Holds(double day) const { return day >= First && day <= Last; }
+    bool operator==(const DayRange&) const = default;
+};
+
+/// The days of all series, each as a whole; an empty range if there are none. Marks don't count.
+DayRange SeasonOf(const Chart& chart);
+
+/// `wished`, moved and if need be shortened into `season`, and no shorter than a week or the season.
+DayRange RangeWithin(DayRange season, DayRange wished);
+
+/// `shown` stretched by `factor` about `day`, which keeps its place unless an end of the season is met; within the
+/// limits of `RangeWithin`.
+DayRange Zoomed(DayRange season, DayRange shown, double factor, double day);
+
+/// Days of `range` to write dates at, no more than `most`: each day, every second, week or fortnight, or the first days
+/// of months. They stay the same days when the range moves.
+std::vector<JulianValue> TickDays(DayRange range, int most);
+
+/// The smallest step of 1, 2 or 5 times a power of ten that goes at most `most` times into `span`.
+double NiceStep(double span, double most);
+
+}  // namespace veraqua
