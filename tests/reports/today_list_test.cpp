@@ -58,16 +58,16 @@ TEST_F(TodayOfFields, StandWorstFirstInWordsAndColours) {
     Field(8, "DRIER", 43, MayDay(2), 61);
     Field(9, "STOPPED", AmountNoDataYet, 0, 51);
     Field(100, "DUE", 43, MayDay(4), 50);  // behind rows whose files are lost
-    EXPECT_THAT(Lines({"Field", "What to do", "Irrigate on", "Amount (in.)", "Days left", "Depletion %"}),
-                testing::ElementsAre("DRIER; Irrigate now (red); 05-02-03; 1.69; 0; 61 (red)",
-                                     "DRY; Irrigate now (red); 05-03-03; 1.69; 0; 60 (yellow)",
-                                     "DUE; Irrigate now (red); 05-04-03; 1.69; 0; 50",
-                                     "STOPPED; Over MAD (yellow); -; -; -; 51 (yellow)",
-                                     "TOMORROW; Irrigate tomorrow (yellow); 05-05-03; 1.69; 1; 40",
-                                     "IN TWO; Irrigate in 2 days (yellow); 05-06-03; 1.69; 2; 45",
-                                     "LATER; Irrigate in 3 days (green); 05-07-03; 1.69; 3; 40",
-                                     "WET; No irrigation needed (green); -; -; -; Full",
-                                     "RIPE; Harvest (green); -; -; -; 40", "NEW; No data yet; -; -; -; 40"));
+    EXPECT_THAT(Lines({"Field", "What to do", "Depletion %", "Irrigate on", "Amount (in.)", "Days left"}),
+                testing::ElementsAre("DRIER; Irrigate now (red); 61 (red); 05-02-03; 1.69; 0",
+                                     "DRY; Irrigate now (red); 60 (yellow); 05-03-03; 1.69; 0",
+                                     "DUE; Irrigate now (red); 50; 05-04-03; 1.69; 0",
+                                     "STOPPED; Over MAD (yellow); 51 (yellow); -; -; -",
+                                     "TOMORROW; Irrigate tomorrow (yellow); 40; 05-05-03; 1.69; 1",
+                                     "IN TWO; Irrigate in 2 days (yellow); 45; 05-06-03; 1.69; 2",
+                                     "LATER; Irrigate in 3 days (green); 40; 05-07-03; 1.69; 3",
+                                     "WET; No irrigation needed (green); Full; -; -; -",
+                                     "RIPE; Harvest (green); 40; -; -; -", "NEW; No data yet; 40; -; -; -"));
     EXPECT_EQ(TodaySummary(), "10 fields, 3 need water. Weather is up to 2 days behind.");
     EXPECT_EQ(List.Rows[2].Data, 100);
     List.Index = 6;
@@ -75,7 +75,7 @@ TEST_F(TodayOfFields, StandWorstFirstInWordsAndColours) {
     State.EnglishUnits = false;
     EXPECT_EQ(Lines({"Field", "Amount (mm)"})[5], "LATER; 43");
     EXPECT_EQ(List.Index, 5);                               // still the same field
-    EXPECT_GT(*List.Rows[7].Cells[3].SortKey, MayDay(31));  // nothing stands behind any day
+    EXPECT_GT(*List.Rows[7].Cells[5].SortKey, MayDay(31));  // nothing stands behind any day
 }
 
 TEST_F(TodayOfFields, TellThroughWhichDayTheyAreKnown) {
@@ -111,7 +111,7 @@ TEST_F(TodayOfFields, ArePrintedOnOnePageInTheWidthOfTheSchedule) {
     for (const PrintedLine& line : paper.Lines) EXPECT_LE(line.Text.size(), 104U);
     const std::string& first = paper.Lines[paper.Lines.size() - 4].Text;
     const std::string& second = paper.Lines[paper.Lines.size() - 3].Text;
-    EXPECT_THAT(first, testing::HasSubstr("Irrigate in 99 days  08-11-03 120.00"));
+    EXPECT_THAT(first, testing::HasSubstr("Irrigate in 99 days        100  50 08-11-03 120.00"));
     EXPECT_EQ(first.find("SPRING"), second.find("@BERMUDA") + 1);  // the letter of two bytes is as wide as another
     EXPECT_EQ(paper.Lines.back().Text, "2 fields, 1 needs water. Weather is up to 99 days behind.");
 }
