@@ -1,10 +1,13 @@
 #include "desktop/printing.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeySequence>
 #include <QLocale>
 #include <QPageLayout>
+#include <QPalette>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -16,6 +19,7 @@
 
 #include "desktop/printed_pages.h"
 #include "desktop/text.h"
+#include "desktop/theme.h"
 
 namespace veraqua {
 
@@ -76,6 +80,8 @@ class Preview {
   public:
     Preview(QWidget* over, const QString& title, const PagePainting& paint)
         : title_(title), paint_(paint), printer_(QPrinter::HighResolution), dialog_(&printer_, over) {
+        // Without a printer the dialog offers to print into a file, and wants to know which.
+        if (QPrinterInfo::availablePrinterNames().isEmpty()) printer_.setOutputFileName(ProposedPdf(title));
         printer_.setPageLayout(UsualPage());
         printer_.setDocName(title);
         printer_.setCreator(ToQt(ProgramTitle));
@@ -84,7 +90,7 @@ class Preview {
         dialog_.resize(900, 760);
         QObject::connect(&dialog_, &QPrintPreviewDialog::paintRequested, &dialog_,
                          [this](QPrinter* printer) { reason_ = PaintOn(*printer, paint_); });
-        OfferPdf();
+        NameTheWaysOut();
     }
 
     PrintOutcome Run() {
@@ -96,15 +102,24 @@ class Preview {
     }
 
   private:
-    void OfferPdf() {
+    /// The two ways out, named and with keys.
+    void NameTheWaysOut() {
         auto* bar = dialog_.findChild<QToolBar*>();
         if (bar == nullptr) return;
-        QAction* save = bar->addAction("Save as P&DF...");
+        const auto name = [bar](QAction* action, const QString& text, const QKeySequence& key) {
+            action->setIconText(text);
+            action->setShortcut(key);
+            action->setToolTip(QString("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
+            if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action)))
+                button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
+                                                                   : Qt::ToolButtonTextBesideIcon);
+        };
+        for (QAction* action : bar->actions())
+            if (action->text() == QPrintPreviewDialog::tr("Print")) name(action, "Print...", QKeySequence::Print);
+        QAction* save = bar->addAction("Save as PDF");
         save->setObjectName("SaveAsPdf");
-        save->setToolTip("Save the pages as a PDF file");
         QObject::connect(save, &QAction::triggered, &dialog_, [this] { SavePdf(); });
-        if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(save)))
-            button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        name(save, "Save as PDF...", QKeySequence::Save);
     }
 
     void SavePdf() {
@@ -128,11 +143,16 @@ PagePainting PaintingOf(const PrintedDocument& document) {
         [&document](QPagedPaintDevice& device, QPainter& painter) { return PaintDocument(document, device, painter); };
 }
 
+/// The image of a window in the light theme: paper is white, and ink is dear.
 QImage ImageOf(QWidget& window) {
     QImage image((QSizeF(window.size()) * ImageSharpness).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(ImageSharpness);
     image.fill(Qt::white);
+    auto& app = *qobject_cast<QApplication*>(QCoreApplication::instance());
+    const bool isDark = app.palette().color(QPalette::Window).lightness() < 128;
+    if (isDark) ApplyTheme(app, Theme::Light);
     window.render(&image);
+    if (isDark) ApplyTheme(app, Theme::Dark);
     return image;
 }
 
