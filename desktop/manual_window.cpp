@@ -194,7 +194,8 @@ void ShowManual(QWidget* over, const QString& anchor) {
 
 QStringList ManualAnchors() {
     QStringList anchors;
-    for (const ManualPage::Section& section : ManualPage(nullptr).Sections()) anchors << section.Id;
+    const ManualPage page(nullptr);  // its sections go with it
+    for (const ManualPage::Section& section : page.Sections()) anchors << section.Id;
     return anchors;
 }
 
