@@ -9,8 +9,10 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -84,6 +86,13 @@ struct WindowTest : testing::Test {
         Settle();
         line.selectAll();
         QTest::keyClicks(&line, text);
+        Settle();
+    }
+
+    void Pick(FormName form, const char* list, int row) {
+        auto& combo = The<QComboBox>(form, list);
+        combo.setCurrentIndex(row);
+        Q_EMIT combo.activated(row);
         Settle();
     }
 

@@ -130,12 +130,13 @@ class Photographer {
             const char* depths[] = {english ? "12" : "30", english ? "30" : "76"};
             for (int layer = 0; layer < 2; ++layer) {
                 const std::string index = "(" + std::to_string(layer) + ")";
-                soil.Type("txtRoot" + index, depths[layer]);
+                soil.Click("cmdDepth").Type("txtRoot" + index, depths[layer]);
                 soil.Press("txtRoot" + index, Event::EnterKey);
                 soil.Type("txtcap" + index, english ? "1.8" : "150");
                 soil.Type("txtcon" + index, english ? "1.5" : "120");
             }
         } else {
+            soil.Type("txtDepth", english ? "12" : "30").Click("cmdDepth");
             soil.Type("txtcap(0)", english ? "1.8" : "150").Type("txtcon(0)", english ? "1.5" : "120");
         }
         Take(form);
@@ -179,7 +180,8 @@ class Photographer {
 
     void Copy() {
         screen_->WhenShown(FormName::frmCopySoilData, [this] {
-            At(FormName::frmCopySoilData).Pick("ComboField", 0);
+            At copy(FormName::frmCopySoilData);
+            copy.Click("cmdPreview").Pick("ComboField", 0);
             Take(FormName::frmCopySoilData);
         });
         ShowModal(FormName::frmCopySoilData);
