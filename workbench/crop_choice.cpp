@@ -42,6 +42,7 @@ void mnuNew_Click(frmField& form) {
     SetEntryVisible(form, true);
     form.Combo_Soils.Clear();
     for (const std::string_view format : {FixedLayers, VariableLayers}) form.Combo_Soils.Add(std::string(format));
+    Focus(form.comboCrops);
 }
 
 void comboCrops_Click(frmField& form) {

@@ -129,7 +129,9 @@ void Load(frmCuts& form) {
 
 void UnloadForm(frmCuts& form) {
     Show(FormName::frmField);
-    if (form.Cancelled && form.Recorded) Save(form, form.CutCopy);
+    if (!form.Cancelled || !form.Recorded) return;
+    Save(form, form.CutCopy);
+    ShowNext(The<frmField>());
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "core/field_file.h"
 #include "core/state.h"
 #include "engine/season_run.h"
+#include "reports/prediction_text.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -98,10 +99,9 @@ void ComboField_Click(frmField& form) {
     // Shown before the run, so that one that fails leaves in sight which field is to be repaired.
     form_clear(form);
     FieldInfo(form);
-    if (form.DeletePending)
-        mnuDelete_Click(form);
-    else
-        RunIfBehind();
+    if (form.DeletePending) return mnuDelete_Click(form);
+    RunIfBehind();
+    ShowNext(form);
 }
 
 void SelectField(frmField& form) {
@@ -139,6 +139,19 @@ void FieldInfo(frmField& form) {
     for (Label* label : {&form.lbl_selected, &form.lbl_more1, &form.lbl_more2}) label->Visible = true;
     ShowFieldIn(form.StatusBar1);
     form.Caption = FieldTitle();
+    ShowNext(form);
+}
+
+void ShowNext(frmField& form) {
+    if (!FieldIsChosen() || !form.lbl_ID.Visible) return;
+    const StatRecord& row = State.Stat[State.CurrentField];
+    const PredictionText next =
+        WaterPrediction(row, State.IsHay, State.TodayJulian, State.MadExceededDay, State.EnglishUnits);
+    form.lblNext.Caption = "Next irrigation:  " + next.Date;
+    if (row.NextIrrAmount > 0) form.lblNext.Caption += "   " + next.Amount;
+    form.lblNext.Background.reset();
+    if (next.Colour == PredictionColour::Red) form.lblNext.Background = colours::Red;
+    form.lblNext.Visible = true;
 }
 
 void ShowFieldData() {

@@ -47,9 +47,10 @@ void ShowFilled(FormName form) {
 
 void cmd_Cancel_Click(frmField& form) { SelectNothing(form); }
 
-void MnuPred_Click(frmField&) {
+void MnuPred_Click(frmField& form) {
     if (!ExpectField()) return;
     UpdateField(TheScreen());
+    ShowNext(form);
     ShowFieldData();
 }
 
@@ -144,6 +145,7 @@ void AddFieldShown(MenuTable& table, frmField& form) {
     table.Add("lbl_crop", form.lbl_crop);
     table.Add("lbl_plantdate", form.lbl_plantdate);
     table.Add("lbl_weather", form.lbl_weather);
+    table.Add("lblNext", form.lblNext);
     table.Add("lbl_more1", form.lbl_more1);
     table.Add("lbl_more2", form.lbl_more2);
     table.Add("cmd_Summary", form.cmd_Summary);
@@ -157,7 +159,7 @@ void AddDepletionPanel(MenuTable& table, frmField& form) {
     table.Add("lblDeplVal", form.lblDeplVal);
     table.Add("lblRootWater", form.lblRootWater);
     table.Add("lblNewDepl", form.lblNewDepl);
-    table.Add("TxtNewDepl", form.TxtNewDepl);
+    table.Add("TxtNewDepl", form.TxtNewDepl).EscapeKey(form_clear);
     table.Add("cmdDeplOK", form.cmdDeplOK).Click(cmdDeplOK_Click);
     table.Add("cmdDeplCanc", form.cmdDeplCanc).Click(form_clear).Exit();
     table.Add("lbl_reset", form.lbl_reset);
@@ -168,10 +170,10 @@ void AddMadPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeMAD", form.ShapeMAD);
     table.Add("lblCurrMAD", form.lblCurrMAD);
     table.Add("lblNewMAD", form.lblNewMAD);
-    table.Add("txtNewMAD", form.txtNewMAD);
+    table.Add("txtNewMAD", form.txtNewMAD).EscapeKey(form_clear);
     table.Add("lblCurrMADC", form.lblCurrMADC);
     table.Add("lblNewMADC", form.lblNewMADC);
-    table.Add("txtNewMADC", form.txtNewMADC);
+    table.Add("txtNewMADC", form.txtNewMADC).EscapeKey(form_clear);
     table.Add("cmdMADOK", form.cmdMADOK).Click(cmdMADOK_Click);
     table.Add("cmdMADCanc", form.cmdMADCanc).Click(form_clear).Exit();
 }
@@ -180,7 +182,7 @@ void AddEfficiencyPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeIRR", form.ShapeIRR);
     table.Add("lblCurrIRR", form.lblCurrIRR);
     table.Add("lblNewIRR", form.lblNewIRR);
-    table.Add("TxtNewIRR", form.TxtNewIRR);
+    table.Add("TxtNewIRR", form.TxtNewIRR).EscapeKey(form_clear);
     table.Add("cmdIRROK", form.cmdIRROK).Click(cmdIRROK_Click);
     table.Add("cmdIRRCanc", form.cmdIRRCanc).Click(form_clear).Exit();
 }
@@ -249,7 +251,7 @@ FormTable TableOf(frmField& form) {
     AddFieldMenus(table, form);
     AddReportMenus(table, form);
     AddOtherMenus(table, form);
-    table.Load(Load).Fill(SelectField).Close(Leave).Unload(Unload);
+    table.Load(Load).Appear(ShowNext).Fill(SelectField).Close(Leave).Unload(Unload);
     return table.Done();
 }
 

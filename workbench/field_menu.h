@@ -32,6 +32,7 @@ struct frmField : Form {
     Label lbl_crop;
     Label lbl_plantdate;
     Label lbl_weather;
+    Label lblNext;  ///< when to irrigate it next, and how much
     Label lbl_more1{"Click on Field Options|Details for comprehensive field data and predictions."};
     Label lbl_more2{"Click on other Field Options menu items for updating irrigation, cutting dates, etc."};
     Button cmd_Summary{"Field Summary"};
@@ -134,6 +135,9 @@ void ListFields(frmField& form);
 
 /// Shows the field in work on the labels, the status bar and the window's title.
 void FieldInfo(frmField& form);
+
+/// Shows what the row of the field in work predicts now, where the workbench shows that field.
+void ShowNext(frmField& form);
 
 /// Shows the summary of the field in work, without waiting for it.
 void ShowFieldData();

@@ -208,7 +208,7 @@ FormTable TableOf(frmCap& form) {
     table.Add("lblDate", form.lblDate);
     table.Add("lblMaximum", form.lblMaximum);
     table.Add("lblEnter", form.lblEnter);
-    table.Add("txtDepth", form.txtDepth);
+    table.Add("txtDepth", form.txtDepth).EnterKey(cmdDepth_Click);
     table.Add("cmdDepth", form.cmdDepth).Click(cmdDepth_Click);
     table.Add("lblEnter2", form.lblEnter2);
     table.Add("lblCapacity", form.lblCapacity);

@@ -160,6 +160,7 @@ void Load(frmAddWater& form) {
     form.Caption = "Irrigation & Rainfall, Veraqua " + State.VersionString;
     const std::optional<FieldFile> file = ReadField(TheScreen());
     if (!file) return Unload(FormName::frmAddWater);
+    form.lblRainUnit.Caption = form.lblIrrUnit.Caption = State.EnglishUnits ? "inches" : "mm";
     TakeLists(form, *file);
     form.AtOpening.Rain = form.RainEvents;
     form.AtOpening.Irrigation = form.IrrEvents;
@@ -171,7 +172,9 @@ void Load(frmAddWater& form) {
 
 void UnloadForm(frmAddWater& form) {
     Show(FormName::frmField);
-    if (form.Cancelled && form.Recorded) Save(form, form.AtOpening);
+    if (!form.Cancelled || !form.Recorded) return;
+    Save(form, form.AtOpening);
+    ShowNext(The<frmField>());
 }
 
 void txtRainDate_Enter(frmAddWater& form) { Focus(form.txtRainfall); }
@@ -225,6 +228,7 @@ FormTable TableOf(frmAddWater& form) {
     table.Add("txtRainDate", form.txtRainDate).EnterKey(txtRainDate_Enter);
     table.Add("lblRainfall", form.lblRainfall);
     table.Add("txtRainfall", form.txtRainfall).EnterKey(cmdOKRain_Click);
+    table.Add("lblRainUnit", form.lblRainUnit);
     table.Add("cmdOKRain", form.cmdOKRain).Click(cmdOKRain_Click);
     table.Add("lblRainList", form.lblRainList);
     table.Add("ListRain", form.ListRain);
@@ -235,6 +239,7 @@ FormTable TableOf(frmAddWater& form) {
     table.Add("txtIrrAdd", form.txtIrrAdd).EnterKey(txtIrrAdd_Enter);
     table.Add("lblIrrigation", form.lblIrrigation);
     table.Add("txtIrrigation", form.txtIrrigation).EnterKey(cmdOKIrrigation_Click);
+    table.Add("lblIrrUnit", form.lblIrrUnit);
     table.Add("cmdOKIrrigation", form.cmdOKIrrigation).Click(cmdOKIrrigation_Click);
     table.Add("lblIrrList", form.lblIrrList);
     table.Add("ListIrr", form.ListIrr);

@@ -16,6 +16,7 @@ struct frmAddWater : Form {
     TextBox txtRainDate;
     Label lblRainfall{"Rainfall Amount:"};
     TextBox txtRainfall;
+    Label lblRainUnit;
     Button cmdOKRain{"OK"};
     Label lblRainList{"RAINFALL"};
     ListBox ListRain;
@@ -27,6 +28,7 @@ struct frmAddWater : Form {
     TextBox txtIrrAdd;
     Label lblIrrigation{"Irrigation Amount:"};
     TextBox txtIrrigation;
+    Label lblIrrUnit;
     Button cmdOKIrrigation{"OK"};
     Label lblIrrList{"IRRIGATION"};
     ListBox ListIrr;

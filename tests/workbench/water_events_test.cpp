@@ -1,5 +1,6 @@
 #include "workbench/water_events.h"
 
+#include "reports/report_text.h"
 #include "tests/workbench/field_menu_fixture.h"
 #include "workbench/cuttings.h"
 
@@ -52,6 +53,31 @@ TEST_F(WaterTest, EachEntryReachesTheFileWithTheRunThatItCauses) {
     Entry.Click("cmdReturn");
     EXPECT_THAT(User.Told, IsEmpty());
     EXPECT_EQ(User.Presented.back(), FormName::frmFieldData);
+}
+
+TEST_F(WaterTest, TheWorkbenchSaysWhenToIrrigateNextAfterEachReturnToIt) {
+    Open(AField());
+    EXPECT_THAT(Form.lblNext.Caption, HasSubstr("Exceeded MAD"));
+    EXPECT_EQ(Form.lblNext.Background, colours::Red);
+    const auto irrigate = [this](std::string_view date) {
+        Entry.Type("txtIrrAdd", date).Type("txtIrrigation", "4").Click("cmdOKIrrigation");
+    };
+    irrigate("7/10/2003");
+    Entry.Click("cmdReturn");
+    const StatRecord& row = State.Stat[1];
+    EXPECT_EQ(Form.lblNext.Caption, "Next irrigation:  " + JulianToShortText(row.NextIrrDay) + "   " +
+                                        IrrigationAmount(row.NextIrrAmount, true));
+    EXPECT_EQ(Form.lblNext.Background, std::nullopt);
+    const std::string wet = Form.lblNext.Caption;
+    Menu.Click("mnuAdd");
+    irrigate("7/12/2003");
+    Entry.Click("cmdCancel");
+    EXPECT_EQ(Form.lblNext.Caption, wet);
+    Menu.Click("mnu_MAD");
+    EXPECT_FALSE(Form.lblNext.Visible);
+    Menu.Press("txtNewMAD", Event::EscapeKey);  // ends the adjustment, not the work on the field
+    EXPECT_FALSE(Form.ShapeMAD.Visible);
+    EXPECT_EQ(State.CurrentField, 1);
 }
 
 TEST_F(WaterTest, RefusesDaysAndAmounts) {
