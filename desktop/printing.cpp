@@ -95,8 +95,8 @@ class Preview {
 
     PrintOutcome Run() {
         const bool done = dialog_.exec() == QDialog::Accepted;
-        if (!reason_.isEmpty()) return {PrintEnding::Failed, FromQt(reason_)};
         if (!done || printer_.printerState() == QPrinter::Aborted) return {PrintEnding::Left, {}};
+        if (!reason_.isEmpty()) return {PrintEnding::Failed, FromQt(reason_)};
         if (printer_.printerState() == QPrinter::Error) return {PrintEnding::Failed, "The printer reports an error."};
         return {};
     }
@@ -149,7 +149,7 @@ QImage ImageOf(QWidget& window) {
     image.setDevicePixelRatio(ImageSharpness);
     image.fill(Qt::white);
     auto& app = *qobject_cast<QApplication*>(QCoreApplication::instance());
-    const bool isDark = app.palette().color(QPalette::Window).lightness() < 128;
+    const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     if (isDark) ApplyTheme(app, Theme::Light);
     window.render(&image);
     if (isDark) ApplyTheme(app, Theme::Dark);
