@@ -7,6 +7,7 @@
 #include <QStandardItemModel>
 #include <QTableView>
 #include <algorithm>
+#include <functional>
 
 #include "desktop/text.h"
 #include "desktop/widget_view.h"
@@ -55,6 +56,24 @@ class CopyKey : public QObject {
     QTableView* view_;
 };
 
+/// A heading of several words in two lines, so that a column is hardly wider than its cells.
+QString Narrow(const QString& heading) {
+    constexpr qsizetype NarrowEnough = 7;
+    const QString firstLine = heading.section('\n', 0, 0);
+    if (firstLine.size() <= NarrowEnough) return heading;
+    const auto widthBrokenAt = [&firstLine](qsizetype blank) { return std::max(blank, firstLine.size() - blank - 1); };
+    qsizetype best = -1;
+    for (qsizetype blank = firstLine.indexOf(' '); blank >= 0; blank = firstLine.indexOf(' ', blank + 1))
+        if (best < 0 || widthBrokenAt(blank) <= widthBrokenAt(best)) best = blank;
+    return best < 0 ? heading : QString(heading).replace(best, 1, '\n');
+}
+
+QStandardItem* MakeCell(const QString& text, bool toTheRight) {
+    auto* item = new QStandardItem(text);
+    item->setTextAlignment((toTheRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return item;
+}
+
 /// A table view with what all tables here share: whole rows are selected, sorted by a click on a heading, and copied.
 class TableParts {
   public:
@@ -78,9 +97,20 @@ class TableParts {
 
     QStandardItemModel& Cells() { return cells_; }
 
-    /// After the cells have been filled.
+    /// Each heading stands above the edge of its column that the cells keep to.
+    void Head(const QStringList& headings, const std::function<bool(int)>& toTheRight) {
+        for (int column = 0; column < headings.size(); ++column)
+            cells_.setHorizontalHeaderItem(column, MakeCell(Narrow(headings[column]), toTheRight(column)));
+    }
+
+    /// After the cells have been filled. For the arrow of the sorting the toolkit would keep room as wide as the
+    /// heading is high.
     void Fit() {
+        view_->horizontalHeader()->setSortIndicatorShown(false);
         view_->resizeColumnsToContents();
+        view_->horizontalHeader()->setSortIndicatorShown(true);
+        for (int column = 0; column < cells_.columnCount(); ++column)
+            view_->setColumnWidth(column, view_->columnWidth(column) + RoomForArrow);
         view_->resizeRowsToContents();
     }
 
@@ -94,16 +124,12 @@ class TableParts {
     }
 
   private:
+    static constexpr int RoomForArrow = 10;
+
     QTableView* view_;
     QStandardItemModel cells_;
     QSortFilterProxyModel sorted_;
 };
-
-QStandardItem* MakeCell(const QString& text, bool toTheRight) {
-    auto* item = new QStandardItem(text);
-    item->setTextAlignment((toTheRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    return item;
-}
 
 class TableHolder : public WidgetView<Table, QTableView> {
   public:
@@ -131,11 +157,8 @@ class TableHolder : public WidgetView<Table, QTableView> {
         cells.clear();
         QStringList headings;
         for (const Table::Column& column : Record().Columns) headings.append(ToQt(column.Heading));
-        cells.setHorizontalHeaderLabels(headings);
+        parts_.Head(headings, [this](int column) { return IsNumeric(column); });
         for (const Table::Row& row : filled_) cells.appendRow(ItemsOf(row, cells.rowCount()));
-        for (int column = 0; column < cells.columnCount(); ++column)
-            if (IsNumeric(column))
-                cells.horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         parts_.Fit();
     }
 
@@ -207,7 +230,7 @@ class ListingView : public WidgetView<TextBox, QTableView> {
         shownHeadings_ = headings;
         QStandardItemModel& cells = parts_.Cells();
         cells.clear();
-        cells.setHorizontalHeaderLabels(headings);
+        parts_.Head(headings, [](int column) { return column > 0; });
         const QStringList lines = ToQt(filled_).split('\n');
         const bool isTable = std::ranges::all_of(
             lines, [&](const QString& line) { return line.split(' ', Qt::SkipEmptyParts).size() == headings.size(); });

@@ -6,8 +6,8 @@
 #include <QDBusReply>
 #include <QDBusVariant>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyle>
-#include <QStyleFactory>
 
 namespace veraqua {
 
@@ -24,7 +24,7 @@ struct Colours {
 Colours ColoursOf(Theme theme) {
     if (theme == Theme::Dark)
         return {"#1e2226", "#15181b", "#1a1e22", "#e6e9ec", "#a3adb6", "#2b3137",
-                "#434c54", "#3a8fd6", "#ffffff", "#262b30", "#7cc0f5", "#ff7b72"};
+                "#434c54", "#3a8fd6", "#ffffff", "#262b30", "#7cc0f5", "#ff8a80"};
     return {"#f5f7f8", "#ffffff", "#f3f6f8", "#1c2329", "#58646e", "#ffffff",
             "#c3ccd3", "#1769aa", "#ffffff", "#ffffff", "#1769aa", "#c62828"};
 }
@@ -60,6 +60,17 @@ QPalette PaletteOf(const Colours& colours) {
     return palette;
 }
 
+/// Leaves room at both sides of the texts in tables and lists. A style sheet can't, without hiding the cells' colours.
+class RoomyStyle : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        constexpr int Margin = 6;
+        return metric == PM_FocusFrameHMargin ? Margin : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 /// The look of the roles; `%name%` is a colour.
 constexpr const char* RoleSheet = R"(
 QLabel[role="title"] { font-size: 17pt; font-weight: 600; }
@@ -78,6 +89,7 @@ QLineEdit:read-only { background: transparent; border: 1px solid transparent; }
 QLineEdit:disabled { color: %quiet%; }
 QLineEdit[refused="true"], QComboBox[refused="true"] { border: 2px solid %refused%; }
 QComboBox { padding: 4px 8px; }
+QComboBox QLineEdit, QAbstractSpinBox QLineEdit { padding: 0; border: none; background: transparent; }
 QPushButton { padding: 6px 16px; border: 1px solid %border%; border-radius: 4px; background: %button%; }
 QPushButton:hover { border: 1px solid %accent%; }
 QPushButton:pressed { background: %window%; }
@@ -88,8 +100,9 @@ QPushButton:disabled { color: %quiet%; background: transparent; border: 1px dash
 QPushButton[role="tile"] { padding: 10px; border-radius: 8px; }
 QGroupBox { font-weight: 600; border: 1px solid %border%; border-radius: 8px; margin-top: 10px; padding-top: 8px; }
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; }
-QHeaderView::section { background: %window%; border: none; border-bottom: 1px solid %border%; padding: 5px 8px;
+QHeaderView::section { background: %window%; border: none; border-bottom: 1px solid %border%; padding: 9px 6px 5px 6px;
     font-weight: 600; }
+QHeaderView::up-arrow, QHeaderView::down-arrow { subcontrol-position: top center; width: 9px; height: 9px; }
 QTableView { gridline-color: %window%; alternate-background-color: %alternate%; }
 QStatusBar { border-top: 1px solid %border%; }
 QStatusBar::item { border: none; }
@@ -139,7 +152,7 @@ Theme ThemeOfDesktop(const QApplication& app) {
 
 void ApplyTheme(QApplication& app, Theme theme) {
     const Colours colours = ColoursOf(theme);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new RoomyStyle("Fusion"));
     QApplication::setPalette(PaletteOf(colours));
     app.setStyleSheet(RolesOf(colours));
 }
