@@ -32,7 +32,7 @@ class ChartCanvas : public QChartView {
     /// Points at a day of the season, the nearest to `day`, and moves it into sight.
     void PointAt(JulianValue day);
 
-    /// Marks that the keyboard is here.
+    /// Whether the keyboard has come here.
     void ShowFocus(bool focused);
 
   protected:

@@ -1,6 +1,7 @@
 #include "desktop/chart_export.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFileDialog>
 #include <QGraphicsScene>
 #include <QGuiApplication>
@@ -94,8 +95,8 @@ std::string Svg(const ChartPicture& picture) {
 QString ProposedPath(const Chart& chart, const FormatName& format) {
     QString name = chart.Title.empty() ? "Chart" : ToQt(chart.Title);
     for (const char c : {'/', '\\', ':', '|', '\''}) name.replace(c, '-');
-    const QString directory = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QString("%1/%2.%3").arg(directory, name, format.Ending);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QString("%1/%2.%3").arg(QDir(documents).exists() ? documents : QDir::homePath(), name, format.Ending);
 }
 
 /// The file and the format that the user chooses; nothing if he leaves.

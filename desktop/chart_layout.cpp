@@ -22,7 +22,7 @@ constexpr double BarShare = 0.34;       // of the plot's height below the names,
 constexpr double NamesShare = 0.45;     // of the plot's height, for the names at most
 constexpr double LinesPerTick = 2.6;    // of text, between two ticks of the left axis
 constexpr double LinesPerAmount = 1.5;  // the same on the right axis
-constexpr double WidthsPerTick = 1.5;   // of a date, between two ticks of the day axis
+constexpr double WidthsPerTick = 1.3;   // of a date, between two ticks of the day axis
 
 /// An axis of numbers from `Low` to `High` with a tick at each `Step`.
 struct NumberAxis {

@@ -33,6 +33,7 @@ ChartView::ChartView(QWidget* parent)
       formats_(new QMenu(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    hint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // it keeps no window from being small
     hint_->setProperty("role", "hint");
     hint_->setProperty("standsAlone", true);
     FillMenus();
@@ -101,7 +102,9 @@ void ChartView::keyPressEvent(QKeyEvent* event) {
 
 void ChartView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    canvas_->ShowFocus(event->reason() != Qt::MouseFocusReason);
+    const Qt::FocusReason reason = event->reason();
+    canvas_->ShowFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                       reason == Qt::ShortcutFocusReason);
 }
 
 void ChartView::focusOutEvent(QFocusEvent* event) {
