@@ -22,7 +22,9 @@ namespace {
 class LabelView : public WidgetView<Label, QLabel> {
   public:
     LabelView(ControlEntry& entry, Label& label, QLabel& shown, ControlEvents& events)
-        : WidgetView(entry, label, shown, events), designed_(shown.text()) {
+        : WidgetView(entry, label, shown, events),
+          designed_(shown.text()),
+          names_(shown.buddy() != nullptr && shown.buddy()->accessibleName().isEmpty()) {
         shown.setTextFormat(Qt::PlainText);
     }
 
@@ -30,10 +32,13 @@ class LabelView : public WidgetView<Label, QLabel> {
     /// Only the label of an input knows mnemonics.
     void BringOwn() override {
         const bool named = Shown().buddy() != nullptr;
-        Shown().setText(named ? CaptionWithMnemonic(Record().Caption, designed_) : PlainCaption(Record().Caption));
+        const QString plain = PlainCaption(Record().Caption);
+        Shown().setText(named ? CaptionWithMnemonic(Record().Caption, designed_) : plain);
+        if (names_) Shown().buddy()->setAccessibleName(plain.simplified());
     }
 
     QString designed_;
+    bool names_;  ///< the input that it stands for, for those who hear the window
 };
 
 class FrameView : public WidgetView<Frame, QWidget> {

@@ -34,10 +34,13 @@ QMessageBox::Icon IconOf(Icon icon) {
 
 QMessageBox::StandardButton AnswerTo(std::string_view text, std::string_view title, Icon icon,
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton standard) {
-    QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), buttons, QApplication::activeWindow());
+    QWidget* const over = QApplication::activeWindow();
+    QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), buttons, over);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(standard);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    const int answer = box.exec();
+    if (over != nullptr) over->activateWindow();
+    return static_cast<QMessageBox::StandardButton>(answer);
 }
 
 }  // namespace

@@ -106,7 +106,9 @@ TEST_F(StoriesTest, ABoxIsNotLeftWithAWrongNumberButForTheExit) {
     for (const char* choice : {"comboCrops", "Combo_Soils"}) Pick(FormName::frmField, choice, 0);
     Click(FormName::frmField, "cmd_OK");
     ASSERT_TRUE(IsUp(FormName::frmLoadField));
-    Type(FormName::frmLoadField, "txtFieldID", "EAST\u0416");  // no letter of the data files
+    Type(FormName::frmLoadField, "txtFieldID", "EAST");
+    QTest::sendKeyEvent(QTest::Click, &The(FormName::frmLoadField, "txtFieldID"), Qt::Key_unknown, u"\u0416"_qs,
+                        Qt::NoModifier);  // no letter of the data files
     EXPECT_EQ(The<QLineEdit>(FormName::frmLoadField, "txtFieldID").text(), "EAST");
     Type(FormName::frmLoadField, "txtMAD", "x");
     const std::size_t said = Said.size();

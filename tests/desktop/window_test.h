@@ -97,6 +97,8 @@ struct WindowTest : testing::Test {
     }
 
     void Press(FormName form, const char* widget, Qt::Key key) {
+        The(form, widget).setFocus();
+        Settle();
         QTest::keyClick(&The(form, widget), key);
         Settle();
     }

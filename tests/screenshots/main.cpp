@@ -195,6 +195,9 @@ class Photographer {
         Take(FormName::frmWeather, "station");
         weather.Pick("ComboKESTA", 5).Click("mnu_enter").Type("txtDate", "7/10/2025").Click("cmd_DateOK");
         Take(FormName::frmWeather, "day");
+        weather.Close();
+        At(FormName::frmVeraqua).Click("cmdWeather");
+        weather.Click("mnu_KESTAloc").Pick("ComboKESTA", 5);
         screen_->WhenShown(FormName::frmViewWeather, [this] {
             At(FormName::frmViewWeather).Type("txtYear", "2025").Click("cmdOK");
             Take(FormName::frmViewWeather);
