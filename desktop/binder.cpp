@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPlainTextEdit>
@@ -176,9 +177,20 @@ bool BoundWindow::eventFilter(QObject* watched, QEvent* event) {
             if (const ControlEntry* entry = EntryOf(watched); entry != nullptr)
                 if (std::holds_alternative<Image*>(entry->Where)) ViewOf(*entry)->Bring();
             return false;
+        case QEvent::MouseButtonRelease: return ClickedByName(watched, static_cast<const QMouseEvent&>(*event));
         case QEvent::KeyPress: return KeyPressed(watched, static_cast<QKeyEvent*>(event)->key());
         default: return false;
     }
+}
+
+/// The name beside a button or an option stands for it.
+bool BoundWindow::ClickedByName(QObject* watched, const QMouseEvent& release) {
+    const auto* name = qobject_cast<const QLabel*>(watched);
+    auto* button = name == nullptr ? nullptr : qobject_cast<QAbstractButton*>(name->buddy());
+    const bool clicked = button != nullptr && button->isEnabled() && release.button() == Qt::LeftButton &&
+                         name->rect().contains(release.position().toPoint());
+    if (clicked) button->click();
+    return clicked;
 }
 
 void BoundWindow::FocusArrived(const ControlEntry& control) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <QObject>
 #include <QWidget>
 #include <memory>
@@ -63,6 +64,7 @@ class BoundWindow : public QObject, public ControlEvents {
     void BringContainers();
     ControlEntry* EntryOf(const QObject* widget) const;
     ControlView* ViewOf(const ControlEntry& control) const;
+    bool ClickedByName(QObject* watched, const QMouseEvent& release);
     bool KeyPressed(QObject* watched, int key);
     bool EnterPressed(QWidget* at);
     void FocusArrived(const ControlEntry& control);
