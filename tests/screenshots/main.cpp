@@ -82,6 +82,7 @@ class Photographer {
         menu.Click("mnuSelect");
         Take(FormName::frmField, "select");
         Select(Hay);
+        menu.Click("mnuFieldSummary");
         Take(FormName::frmFieldData);
         Unload(FormName::frmFieldData);
         Take(FormName::frmField);
@@ -127,7 +128,7 @@ class Photographer {
         At soil(form);
         const bool english = State.EnglishUnits;
         if (form == FormName::frmCapVar) {
-            const char* depths[] = {english ? "12" : "30", english ? "30" : "76"};
+            const char* depths[] = {english ? "12" : "300", english ? "30" : "760"};
             for (int layer = 0; layer < 2; ++layer) {
                 const std::string index = "(" + std::to_string(layer) + ")";
                 soil.Click("cmdDepth").Type("txtRoot" + index, depths[layer]);
@@ -136,7 +137,7 @@ class Photographer {
                 soil.Type("txtcon" + index, english ? "1.5" : "120");
             }
         } else {
-            soil.Type("txtDepth", english ? "12" : "30").Click("cmdDepth");
+            soil.Type("txtDepth", english ? "12" : "300").Click("cmdDepth");
             soil.Type("txtcap(0)", english ? "1.8" : "150").Type("txtcon(0)", english ? "1.5" : "120");
         }
         Take(form);
