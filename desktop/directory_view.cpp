@@ -39,6 +39,9 @@ class DirectoryTree : public WidgetView<DirectoryBox, QTreeView> {
         Shown().setModel(model_);
         for (int column = 1; column < model_->columnCount(); ++column) Shown().hideColumn(column);
         Shown().header()->hide();
+        // Directories are read beside the program; what is above the one picked comes in step by step.
+        QObject::connect(model_, &QFileSystemModel::directoryLoaded, &Shown(),
+                         [this] { Shown().scrollTo(Shown().currentIndex()); });
     }
 
     void BringOwn() override {

@@ -89,7 +89,12 @@ QLineEdit:read-only { background: transparent; border: 1px solid transparent; }
 QLineEdit:disabled { color: %quiet%; }
 QLineEdit[refused="true"], QComboBox[refused="true"] { border: 2px solid %refused%; }
 QComboBox { padding: 4px 8px; }
-QComboBox QLineEdit, QAbstractSpinBox QLineEdit { padding: 0; border: none; background: transparent; }
+QComboBox::drop-down { border: none; width: 22px; }
+QComboBox::down-arrow { image: url(:/pictures/drop_down.svg); width: 12px; height: 12px; }
+QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %quiet%; border-radius: 8px; background: %base%; }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0.55 %accent%, stop: 0.6 %base%); }
+QRadioButton::indicator:focus { width: 12px; height: 12px; border: 2px solid %accent%; }
 QPushButton { padding: 6px 16px; border: 1px solid %border%; border-radius: 4px; background: %button%; }
 QPushButton:hover { border: 1px solid %accent%; }
 QPushButton:pressed { background: %window%; }

@@ -128,7 +128,7 @@ class Photographer {
         At soil(form);
         const bool english = State.EnglishUnits;
         if (form == FormName::frmCapVar) {
-            const char* depths[] = {english ? "12" : "300", english ? "30" : "760"};
+            const char* depths[] = {english ? "12" : "30", english ? "30" : "76"};
             for (int layer = 0; layer < 2; ++layer) {
                 const std::string index = "(" + std::to_string(layer) + ")";
                 soil.Click("cmdDepth").Type("txtRoot" + index, depths[layer]);

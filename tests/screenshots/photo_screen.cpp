@@ -51,7 +51,7 @@ void PhotoScreen::Take(FormName form, const std::string& folder, const std::stri
     QDir().mkpath(ToQt(folder));
     window.grab().save(ToQt(fmt::format("{}/{}.png", folder, name)));
     for (const QWidget* widget : window.findChildren<QWidget*>())
-        if (widget->isVisible() && !IsWhole(*widget))
+        if (widget->isVisible() && !widget->objectName().isEmpty() && !IsWhole(*widget))
             fmt::print("{}/{}: the text of {} is cut off.\n", folder, name, FromQt(widget->objectName()));
 }
 
