@@ -1,9 +1,9 @@
 #include "desktop/date_popup.h"
 
 #include <QAction>
-#include <QCalendarWidget>
 #include <QIcon>
 #include <QMenu>
+#include <QTextCharFormat>
 #include <QWidgetAction>
 
 #include "core/calendar.h"
@@ -32,7 +32,7 @@ void TypeInto(QLineEdit& line, const QDate& day) {
 void ShowPopup(QLineEdit& line) {
     QMenu popup(&line);
     auto* calendar = new QCalendarWidget(&popup);
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    MakePlain(*calendar);
     calendar->setSelectedDate(DayShown(line));
     QObject::connect(calendar, &QCalendarWidget::activated, &popup, [&](const QDate& day) {
         popup.close();
@@ -50,6 +50,11 @@ void ShowPopup(QLineEdit& line) {
 }
 
 }  // namespace
+
+void MakePlain(QCalendarWidget& calendar) {
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, {});
+}
 
 void AddDatePopup(QLineEdit& line) {
     QAction* button = line.addAction(QIcon(":/pictures/calendar.svg"), QLineEdit::TrailingPosition);

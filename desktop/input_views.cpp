@@ -8,6 +8,7 @@
 #include <QRegularExpressionValidator>
 #include <functional>
 
+#include "desktop/date_popup.h"
 #include "desktop/days.h"
 #include "desktop/text.h"
 #include "desktop/widget_view.h"
@@ -178,7 +179,7 @@ class CalendarView : public WidgetView<Calendar, QCalendarWidget> {
   public:
     CalendarView(ControlEntry& entry, Calendar& calendar, QCalendarWidget& shown, ControlEvents& events)
         : WidgetView(entry, calendar, shown, events) {
-        shown.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+        MakePlain(shown);
         const auto pick = [this](const QDate& day) { Picked([this, day] { Record().Day = DayOf(day); }); };
         QObject::connect(&shown, &QCalendarWidget::clicked, &shown, pick);
         QObject::connect(&shown, &QCalendarWidget::activated, &shown, pick);

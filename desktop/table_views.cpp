@@ -230,18 +230,19 @@ class ListingView : public WidgetView<TextBox, QTableView> {
         shownHeadings_ = headings;
         QStandardItemModel& cells = parts_.Cells();
         cells.clear();
-        parts_.Head(headings, [](int column) { return column > 0; });
         const QStringList lines = ToQt(filled_).split('\n');
         const bool isTable = std::ranges::all_of(
             lines, [&](const QString& line) { return line.split(' ', Qt::SkipEmptyParts).size() == headings.size(); });
-        if (isTable)
+        if (isTable) {
+            parts_.Head(headings, [](int column) { return column > 0; });
             for (const QString& line : lines) cells.appendRow(ItemsOf(line.split(' ', Qt::SkipEmptyParts)));
+            parts_.Fit();
+        }
         QStringList notice;
         for (const QString& line : lines) notice.append(line.trimmed());
         notice_.setText(notice.join('\n').trimmed());
         notice_.setVisible(!isTable);
         Shown().horizontalHeader()->setVisible(isTable);
-        if (isTable) parts_.Fit();
     }
 
     /// The first column is the day, which sorts by its year first.

@@ -90,7 +90,7 @@ QLineEdit:disabled { color: %quiet%; }
 QLineEdit[refused="true"], QComboBox[refused="true"] { border: 2px solid %refused%; }
 QComboBox { padding: 4px 8px; }
 QComboBox::drop-down { border: none; width: 22px; }
-QComboBox::down-arrow { image: url(:/pictures/drop_down.svg); width: 12px; height: 12px; }
+QComboBox::down-arrow { image: url(:/pictures/arrow_down.svg); width: 12px; height: 12px; }
 QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %quiet%; border-radius: 8px; background: %base%; }
 QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0.55 %accent%, stop: 0.6 %base%); }
