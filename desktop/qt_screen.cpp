@@ -33,7 +33,7 @@ QMessageBox::Icon IconOf(Icon icon) {
 }
 
 QMessageBox::StandardButton AnswerTo(std::string_view text, std::string_view title, Icon icon,
-                                QMessageBox::StandardButtons buttons, QMessageBox::StandardButton standard) {
+                                     QMessageBox::StandardButtons buttons, QMessageBox::StandardButton standard) {
     QWidget* const over = QApplication::activeWindow();
     QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), buttons, over);
     box.setTextFormat(Qt::PlainText);
@@ -158,7 +158,7 @@ bool QtScreen::YesNo(std::string_view text, std::string_view title, Icon icon, b
     EndProgress();
     BringAll();
     return AnswerTo(text, title, icon, QMessageBox::Yes | QMessageBox::No,
-               noIsDefault ? QMessageBox::No : QMessageBox::Yes) == QMessageBox::Yes;
+                    noIsDefault ? QMessageBox::No : QMessageBox::Yes) == QMessageBox::Yes;
 }
 
 void QtScreen::Progress(std::string_view what, std::size_t done, std::size_t total) {

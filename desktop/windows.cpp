@@ -1,31 +1,31 @@
 #include "desktop/windows.h"
 
-#include <QMainWindow>
+#include <ui_frmAddWater.h>
+#include <ui_frmCap.h>
+#include <ui_frmCapVar.h>
+#include <ui_frmConfig.h>
+#include <ui_frmCopySoilData.h>
+#include <ui_frmCuts.h>
+#include <ui_frmDownload.h>
+#include <ui_frmField.h>
+#include <ui_frmFieldData.h>
+#include <ui_frmFieldDetails.h>
+#include <ui_frmFieldGraph.h>
+#include <ui_frmFieldHistory.h>
+#include <ui_frmGraphs.h>
+#include <ui_frmHayFieldHistory.h>
+#include <ui_frmHelp.h>
+#include <ui_frmKESTA.h>
+#include <ui_frmLoadField.h>
+#include <ui_frmPath.h>
+#include <ui_frmReportOptions.h>
+#include <ui_frmSeasonChart.h>
+#include <ui_frmSelectHarvested.h>
+#include <ui_frmVeraqua.h>
+#include <ui_frmViewWeather.h>
+#include <ui_frmWeather.h>
 
-#include "ui_frmAddWater.h"
-#include "ui_frmCap.h"
-#include "ui_frmCapVar.h"
-#include "ui_frmConfig.h"
-#include "ui_frmCopySoilData.h"
-#include "ui_frmCuts.h"
-#include "ui_frmDownload.h"
-#include "ui_frmField.h"
-#include "ui_frmFieldData.h"
-#include "ui_frmFieldDetails.h"
-#include "ui_frmFieldGraph.h"
-#include "ui_frmFieldHistory.h"
-#include "ui_frmGraphs.h"
-#include "ui_frmHayFieldHistory.h"
-#include "ui_frmHelp.h"
-#include "ui_frmKESTA.h"
-#include "ui_frmLoadField.h"
-#include "ui_frmPath.h"
-#include "ui_frmReportOptions.h"
-#include "ui_frmSeasonChart.h"
-#include "ui_frmSelectHarvested.h"
-#include "ui_frmVeraqua.h"
-#include "ui_frmViewWeather.h"
-#include "ui_frmWeather.h"
+#include <QMainWindow>
 
 namespace veraqua {
 

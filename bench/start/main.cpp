@@ -1,20 +1,20 @@
-/// veraqua-start-bench [ROUNDS]: the time from a program's begin to a window that has been drawn and waits for the user,
-/// once for the main menu on the sample season and once for an empty window, by turns; the medians and their ratio.
+/// veraqua-start-bench [ROUNDS]: the time from a program's begin to a window that has been drawn and waits for the
+/// user, once for the main menu on the sample season and once for an empty window, by turns; the medians and their
+/// ratio.
 
 #include <unistd.h>
-
-#include <algorithm>
-#include <chrono>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 #include <QApplication>
 #include <QMainWindow>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 

@@ -1,5 +1,3 @@
-#include <set>
-
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -8,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <set>
 
 #include "desktop/control_view.h"
 #include "desktop/manual_window.h"
@@ -30,8 +29,10 @@ struct DesignsTest : WindowTest {
 };
 
 bool IsInput(const QWidget& widget) {
-    return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
-           qobject_cast<const QComboBox*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+    return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
            qobject_cast<const QCalendarWidget*>(&widget) != nullptr;
 }
@@ -105,7 +106,8 @@ TEST_F(DesignsTest, LeadByTabThroughAllInputsToTheExit) {
             if (std::holds_alternative<TextBox*>(entry.Where) || std::holds_alternative<ComboBox*>(entry.Where))
                 lastInput = std::max(lastInput, place);
         }
-        EXPECT_TRUE(firstExit == chain.size() || lastInput < firstExit || form->Name == FormName::frmField) << form->Text;
+        EXPECT_TRUE(firstExit == chain.size() || lastInput < firstExit || form->Name == FormName::frmField)
+            << form->Text;
     }
 }
 

@@ -1,11 +1,5 @@
 #pragma once
 
-#include <filesystem>
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
-
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -15,6 +9,11 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -27,17 +26,17 @@
 
 namespace veraqua {
 
-/// The program with real windows, before a user whose data home is a directory of the test. He answers messages, and does
-/// on the windows that are shown to him alone what was said beforehand.
+/// The program with real windows, before a user whose data home is a directory of the test. He answers messages, and
+/// does on the windows that are shown to him alone what was said beforehand.
 struct WindowTest : testing::Test {
     static constexpr JulianValue Today = JulianFromDate(7, 15, 2025);
 
     TestDirectory Directory;
     QtScreen Screen;
 
-    std::vector<std::string> Said;                          ///< "title: text" of each message
-    std::vector<QMessageBox::StandardButton> Answers;       ///< to the next messages; then what Enter presses
-    std::map<FormName, std::function<void()>> WhenShown;    ///< once, when the window is modal
+    std::vector<std::string> Said;                        ///< "title: text" of each message
+    std::vector<QMessageBox::StandardButton> Answers;     ///< to the next messages; then what Enter presses
+    std::map<FormName, std::function<void()>> WhenShown;  ///< once, when the window is modal
 
     WindowTest() {
         setenv("XDG_DATA_HOME", (Directory.Path() + "home").c_str(), 1);

@@ -1,10 +1,9 @@
-#include <cstdlib>
-#include <filesystem>
-#include <string>
-
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
 
 #include "core/files.h"
 #include "core/state.h"
@@ -41,7 +40,8 @@ class Photographer {
     }
 
     /// Takes `form` when it comes up, after `doing`.
-    void TakeWhenShown(FormName form, std::function<void()> doing = [] {}) {
+    void TakeWhenShown(
+        FormName form, std::function<void()> doing = [] {}) {
         screen_->WhenShown(form, [this, form, doing = std::move(doing)] {
             Take(form);
             doing();

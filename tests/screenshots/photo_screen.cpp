@@ -1,12 +1,11 @@
 #include "tests/screenshots/photo_screen.h"
 
-#include <cstdio>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <cstdio>
 
 #include <fmt/format.h>
 
