@@ -1,7 +1,10 @@
 #include "desktop/app.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QIcon>
 #include <cstdlib>
+#include <thread>
 
 #include "desktop/qt_screen.h"
 #include "desktop/theme.h"
@@ -18,6 +21,11 @@ static void TakeResources() {
 }
 
 namespace veraqua {
+
+void ReadFontsAhead() {
+    // The toolkit asks the same library later, and waits for it.
+    std::thread([] { FcInit(); }).detach();
+}
 
 void PrepareApplication(QApplication& app) {
     TakeResources();

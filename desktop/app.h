@@ -4,6 +4,9 @@
 
 namespace veraqua {
 
+/// Begins to read what fonts there are, beside the toolkit's own start, which has no need of them yet.
+void ReadFontsAhead();
+
 /// Sets the program's name, icon and theme, and makes all forms known.
 void PrepareApplication(QApplication& app);
 

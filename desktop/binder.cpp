@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPlainTextEdit>
@@ -71,10 +72,20 @@ void BoundWindow::BindControls() {
 void BoundWindow::Bring() {
     window_->setWindowTitle(PlainCaption(form_->Record->Caption));
     ShowBackground(*window_, form_->Record->Background);
+    HoldLayout(true);
     for (const auto& view : views_)
         if (view) view->Bring();
     BringContainers();
+    HoldLayout(false);
     if (panels_) panels_->Bring(form_->Record->Children);
+}
+
+/// While some of what goes away still stands beside what comes, the window would grow for both.
+void BoundWindow::HoldLayout(bool held) {
+    QLayout* const layout = window_->layout();
+    if (layout == nullptr) return;
+    layout->setEnabled(!held);
+    if (!held) layout->invalidate();
 }
 
 /// A decorative container is there for what is shown in it.

@@ -61,6 +61,7 @@ class BoundWindow : public QObject, public ControlEvents {
 
   private:
     void BindControls();
+    void HoldLayout(bool held);
     void BringContainers();
     ControlEntry* EntryOf(const QObject* widget) const;
     ControlView* ViewOf(const ControlEntry& control) const;

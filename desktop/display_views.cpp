@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QStyle>
 #include <QSvgRenderer>
@@ -19,6 +20,12 @@ namespace veraqua {
 
 namespace {
 
+/// A row of dots leads to the number behind it only where all letters have one width.
+QString WithoutLeaders(const QString& caption) {
+    static const QRegularExpression leaders("(\\s*\\.){4,}\\s*$");
+    return QString(caption).remove(leaders);
+}
+
 class LabelView : public WidgetView<Label, QLabel> {
   public:
     LabelView(ControlEntry& entry, Label& label, QLabel& shown, ControlEvents& events)
@@ -32,8 +39,8 @@ class LabelView : public WidgetView<Label, QLabel> {
     /// Only the label of an input knows mnemonics.
     void BringOwn() override {
         const bool named = Shown().buddy() != nullptr;
-        const QString plain = PlainCaption(Record().Caption);
-        Shown().setText(named ? CaptionWithMnemonic(Record().Caption, designed_) : plain);
+        const QString plain = WithoutLeaders(PlainCaption(Record().Caption));
+        Shown().setText(named ? CaptionWithMnemonic(FromQt(QString(plain).replace("&", "&&")), designed_) : plain);
         if (names_) Shown().buddy()->setAccessibleName(plain.simplified());
     }
 
@@ -47,7 +54,8 @@ class FrameView : public WidgetView<Frame, QWidget> {
 
   private:
     void BringOwn() override {
-        if (auto* group = qobject_cast<QGroupBox*>(&Shown())) group->setTitle(PlainCaption(Record().Caption).trimmed());
+        if (auto* group = qobject_cast<QGroupBox*>(&Shown()))
+            group->setTitle(CaptionWithMnemonic(Record().Caption, group->title()));
     }
 };
 

@@ -88,6 +88,7 @@ class TableParts {
         view.setWordWrap(false);
         view.setTabKeyNavigation(false);
         view.verticalHeader()->hide();
+        view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + RoomInRow);
         view.horizontalHeader()->setHighlightSections(false);
         view.horizontalHeader()->setSortIndicatorClearable(true);
         view.horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -97,21 +98,20 @@ class TableParts {
 
     QStandardItemModel& Cells() { return cells_; }
 
+    /// Empties the table for `fill`, which puts its cells in. The view looks again when all is there.
+    template <class Fill>
+    void FillAnew(Fill fill) {
+        sorted_.setSourceModel(nullptr);
+        cells_.clear();
+        fill();
+        sorted_.setSourceModel(&cells_);
+        Fit();
+    }
+
     /// Each heading stands above the edge of its column that the cells keep to.
     void Head(const QStringList& headings, const std::function<bool(int)>& toTheRight) {
         for (int column = 0; column < headings.size(); ++column)
             cells_.setHorizontalHeaderItem(column, MakeCell(Narrow(headings[column]), toTheRight(column)));
-    }
-
-    /// After the cells have been filled. For the arrow of the sorting the toolkit would keep room as wide as the
-    /// heading is high.
-    void Fit() {
-        view_->horizontalHeader()->setSortIndicatorShown(false);
-        view_->resizeColumnsToContents();
-        view_->horizontalHeader()->setSortIndicatorShown(true);
-        for (int column = 0; column < cells_.columnCount(); ++column)
-            view_->setColumnWidth(column, view_->columnWidth(column) + RoomForArrow);
-        view_->resizeRowsToContents();
     }
 
     int RecordRowOf(const QModelIndex& shown) const {
@@ -125,6 +125,16 @@ class TableParts {
 
   private:
     static constexpr int RoomForArrow = 10;
+    static constexpr int RoomInRow = 14;
+
+    /// For the arrow of the sorting the toolkit would keep room as wide as the heading is high.
+    void Fit() {
+        view_->horizontalHeader()->setSortIndicatorShown(false);
+        view_->resizeColumnsToContents();
+        view_->horizontalHeader()->setSortIndicatorShown(true);
+        for (int column = 0; column < cells_.columnCount(); ++column)
+            view_->setColumnWidth(column, view_->columnWidth(column) + RoomForArrow);
+    }
 
     QTableView* view_;
     QStandardItemModel cells_;
@@ -147,19 +157,20 @@ class TableHolder : public WidgetView<Table, QTableView> {
 
   private:
     void BringOwn() override {
-        if (Record().Rows != filled_ || parts_.Cells().columnCount() == 0) Refill();
+        QStringList headings;
+        for (const Table::Column& column : Record().Columns) headings.append(ToQt(column.Heading));
+        if (Record().Rows != filled_ || headings != shownHeadings_) Refill(headings);
         parts_.SelectRecordRow(Record().Index);
     }
 
-    void Refill() {
+    void Refill(const QStringList& headings) {
         filled_ = Record().Rows;
-        QStandardItemModel& cells = parts_.Cells();
-        cells.clear();
-        QStringList headings;
-        for (const Table::Column& column : Record().Columns) headings.append(ToQt(column.Heading));
-        parts_.Head(headings, [this](int column) { return IsNumeric(column); });
-        for (const Table::Row& row : filled_) cells.appendRow(ItemsOf(row, cells.rowCount()));
-        parts_.Fit();
+        shownHeadings_ = headings;
+        parts_.FillAnew([&] {
+            parts_.Head(headings, [this](int column) { return IsNumeric(column); });
+            QStandardItemModel& cells = parts_.Cells();
+            for (const Table::Row& row : filled_) cells.appendRow(ItemsOf(row, cells.rowCount()));
+        });
     }
 
     bool IsNumeric(int column) const { return Record().Columns[static_cast<std::size_t>(column)].IsNumeric; }
@@ -181,6 +192,7 @@ class TableHolder : public WidgetView<Table, QTableView> {
 
     TableParts parts_;
     std::vector<Table::Row> filled_;
+    QStringList shownHeadings_;
 };
 
 /// Lines of a text in columns, which are told apart by blanks. A text with other lines is a notice in place of the
@@ -228,16 +240,14 @@ class ListingView : public WidgetView<TextBox, QTableView> {
     void Refill(const QStringList& headings) {
         filled_ = Record().Text;
         shownHeadings_ = headings;
-        QStandardItemModel& cells = parts_.Cells();
-        cells.clear();
         const QStringList lines = ToQt(filled_).split('\n');
         const bool isTable = std::ranges::all_of(
             lines, [&](const QString& line) { return line.split(' ', Qt::SkipEmptyParts).size() == headings.size(); });
-        if (isTable) {
+        parts_.FillAnew([&] {
+            if (!isTable) return;
             parts_.Head(headings, [](int column) { return column > 0; });
-            for (const QString& line : lines) cells.appendRow(ItemsOf(line.split(' ', Qt::SkipEmptyParts)));
-            parts_.Fit();
-        }
+            for (const QString& line : lines) parts_.Cells().appendRow(ItemsOf(line.split(' ', Qt::SkipEmptyParts)));
+        });
         QStringList notice;
         for (const QString& line : lines) notice.append(line.trimmed());
         notice_.setText(notice.join('\n').trimmed());

@@ -83,7 +83,7 @@ QFrame[role="card"] QLabel { background: transparent; }
 QLineEdit, QPlainTextEdit, QComboBox, QListWidget, QTableView, QTreeView {
     background: %base%; border: 1px solid %border%; border-radius: 4px; }
 QLineEdit { padding: 4px 6px; }
-QLineEdit:focus, QPlainTextEdit:focus, QListWidget:focus, QTableView:focus, QTreeView:focus {
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus, QTableView:focus, QTreeView:focus {
     border: 1px solid %accent%; }
 QLineEdit:read-only { background: transparent; border: 1px solid transparent; }
 QLineEdit:disabled { color: %quiet%; }
@@ -111,6 +111,7 @@ QHeaderView::up-arrow, QHeaderView::down-arrow { subcontrol-position: top center
 QTableView { gridline-color: %window%; alternate-background-color: %alternate%; }
 QStatusBar { border-top: 1px solid %border%; }
 QStatusBar::item { border: none; }
+QStatusBar QLabel { padding: 2px 10px; }
 QMenuBar { border-bottom: 1px solid %border%; }
 QToolTip { color: %text%; background: %card%; border: 1px solid %border%; padding: 4px; }
 QProgressBar { border: 1px solid %border%; border-radius: 4px; background: %base%; }
@@ -132,6 +133,8 @@ QString RolesOf(const Colours& colours) {
 
 /// The portal's "color-scheme": 1 wants dark, 2 light, 0 leaves it open.
 std::optional<Theme> ThemeOfPortal() {
+    // Without a bus to go to, asking would start one.
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) return std::nullopt;
     QDBusMessage question = QDBusMessage::createMethodCall(
         "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "Read");
     question << "org.freedesktop.appearance"

@@ -108,7 +108,12 @@ std::string WhatToDo(const FieldToday& field) {
 /// Nothing is known of a field without data, so that nothing reassures either.
 std::optional<Colour> ColourOf(const FieldToday& field) {
     if (field.ToDo == Deed::Unknown) return std::nullopt;
-    return field.Urge == Urgency::Now ? colours::Red : field.Urge == Urgency::Soon ? colours::Yellow : colours::Green;
+    switch (field.Urge) {
+        case Urgency::Now: return colours::PaleRed;
+        case Urgency::Soon: return colours::PaleYellow;
+        case Urgency::Later: break;
+    }
+    return colours::PaleGreen;
 }
 
 std::string Days(int count) { return fmt::format("{} {}", count, count == 1 ? "day" : "days"); }
@@ -138,12 +143,13 @@ Table::Cell AmountCell(int millimetres) {
 
 Table::Cell DepletionCell(const StatRecord& stat) {
     Table::Cell cell = stat.Depletion < 0 ? SortedCell("Full", stat.Depletion) : WholeNumberCell(stat.Depletion);
-    cell.Background = DepletionWarning(stat.Depletion, stat.MadNow);
+    if (const std::optional<Colour> warning = DepletionWarning(stat.Depletion, stat.MadNow))
+        cell.Background = warning == colours::Red ? colours::PaleRed : colours::PaleYellow;
     return cell;
 }
 
 Table::Cell WeatherCell(int daysBehind) {
-    const auto background = daysBehind > SoonDays ? std::optional(colours::Yellow) : std::nullopt;
+    const auto background = daysBehind > SoonDays ? std::optional(colours::PaleYellow) : std::nullopt;
     return SortedCell(daysBehind > 0 ? Days(daysBehind) : "", daysBehind > 0 ? -daysBehind : Behind, background);
 }
 

@@ -92,8 +92,9 @@ int Measure(int rounds) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    QApplication app(argumentCount, arguments);
     const std::string what = argumentCount > 1 ? arguments[1] : "30";
+    if (what == "main-menu") ReadFontsAhead();
+    QApplication app(argumentCount, arguments);
     if (what == "empty") return StartEmpty(app);
     if (what == "main-menu") return StartMainMenu(app);
     return Measure(std::max(1, std::atoi(what.c_str())));

@@ -25,10 +25,10 @@ struct TodayOfFields : DirectoryTest {
     }
 
     static std::string Shown(const Table::Cell& cell) {
-        const char* colour = !cell.Background                     ? ""
-                             : cell.Background == colours::Red    ? " (red)"
-                             : cell.Background == colours::Yellow ? " (yellow)"
-                                                                  : " (green)";
+        const char* colour = !cell.Background                         ? ""
+                             : cell.Background == colours::PaleRed    ? " (red)"
+                             : cell.Background == colours::PaleYellow ? " (yellow)"
+                                                                      : " (green)";
         return (cell.Text.empty() ? "-" : cell.Text) + colour;
     }
 
