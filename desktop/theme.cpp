@@ -60,10 +60,17 @@ QPalette PaletteOf(const Colours& colours) {
     return palette;
 }
 
-/// Leaves room at both sides of the texts in tables and lists. A style sheet can't, without hiding the cells' colours.
+/// Leaves room at both sides of the texts in tables and lists, where a style sheet would hide the cells' colours, and
+/// the buttons of messages without pictures, as all others are.
 class RoomyStyle : public QProxyStyle {
   public:
     using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         constexpr int Margin = 6;

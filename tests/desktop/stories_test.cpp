@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTcpServer>
 
 #include <gmock/gmock.h>
 
@@ -168,6 +169,24 @@ TEST_F(StoriesTest, AYearOfWeatherIsATable) {
     EXPECT_TRUE(WhenShown.empty());
     Click(FormName::frmWeather, "Cmd_Exit");
     EXPECT_TRUE(IsUp(FormName::frmVeraqua));
+}
+
+TEST_F(StoriesTest, ADownloadThatTheNetworkLeavesHangingIsCancelledAtOnce) {
+    Today();
+    QTcpServer silent;
+    silent.listen(QHostAddress::LocalHost);
+    State.BaseUrl = "http://127.0.0.1:" + std::to_string(silent.serverPort()) + "/";
+    Click(FormName::frmVeraqua, "cmdWeather");
+    WhenShown[FormName::frmDownload] = [this] {
+        EXPECT_FALSE(The(FormName::frmDownload, "cmd_OK").isEnabled());
+        Click(FormName::frmDownload, "Cmd_Exit");
+    };
+    Choose(FormName::frmWeather, "mnu_KESTAloc");
+    Pick(FormName::frmWeather, "ComboKESTA", 5);
+    Choose(FormName::frmWeather, "mnu_AppendWeather");
+    EXPECT_TRUE(WhenShown.empty());
+    EXPECT_THAT(Said, testing::Contains("DOWNLOAD ENDED: Your download has been cancelled"));
+    EXPECT_TRUE(IsUp(FormName::frmWeather) && !IsUp(FormName::frmDownload));
 }
 
 TEST_F(StoriesTest, AFieldIsChosenAmongTheBars) {
