@@ -183,6 +183,7 @@ TEST_F(StoriesTest, ADownloadThatTheNetworkLeavesHangingIsCancelledAtOnce) {
     };
     Choose(FormName::frmWeather, "mnu_KESTAloc");
     Pick(FormName::frmWeather, "ComboKESTA", 5);
+    Answers = {QMessageBox::Yes};  // what is there is to be overwritten
     Choose(FormName::frmWeather, "mnu_AppendWeather");
     EXPECT_TRUE(WhenShown.empty());
     EXPECT_THAT(Said, testing::Contains("DOWNLOAD ENDED: Your download has been cancelled"));
