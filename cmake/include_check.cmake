@@ -3,6 +3,9 @@
 
 option(VERAQUA_CHECK_INCLUDES "Check the include directions while building" OFF)
 
+if(NOT VERAQUA_DESKTOP)
+    return()  # a room is missing, and with it its arrows
+endif()
 if(VERAQUA_CHECK_INCLUDES OR VERAQUA_TESTS)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
     get_property(arrows GLOBAL PROPERTY VERAQUA_ARROWS)
