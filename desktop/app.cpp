@@ -35,7 +35,7 @@ void PrepareApplication(QApplication& app) {
     QGuiApplication::setDesktopFileName("veraqua");
     QApplication::setWindowIcon(QIcon(":/pictures/veraqua.svg"));
     QApplication::setQuitOnLastWindowClosed(false);  // a form that hides another one is no end
-    ApplyTheme(app, ThemeOfDesktop(app));
+    ApplyTheme(app, ThemeOfDesktop());
     AddWorkbenchForms();
     AddReportForms();
     AddWeatherForms();

@@ -73,8 +73,8 @@ class RoomyStyle : public QProxyStyle {
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        constexpr int Margin = 6;
-        return metric == PM_FocusFrameHMargin ? Margin : QProxyStyle::pixelMetric(metric, option, widget);
+        constexpr int margin = 6;
+        return metric == PM_FocusFrameHMargin ? margin : QProxyStyle::pixelMetric(metric, option, widget);
     }
 };
 
@@ -159,9 +159,9 @@ std::optional<Theme> ThemeOfPortal() {
 
 }  // namespace
 
-Theme ThemeOfDesktop(const QApplication& app) {
+Theme ThemeOfDesktop() {
     if (const std::optional<Theme> asked = ThemeOfPortal()) return *asked;
-    const bool darkWindows = app.palette().color(QPalette::Window).lightness() < 128;
+    const bool darkWindows = QApplication::palette().color(QPalette::Window).lightness() < 128;
     return darkWindows ? Theme::Dark : Theme::Light;
 }
 

@@ -11,8 +11,9 @@ namespace veraqua {
 
 enum class Theme { Light, Dark };
 
-/// What the desktop asks for: its portal's colour scheme, or else what its own palette tells.
-Theme ThemeOfDesktop(const QApplication& app);
+/// What the desktop asks for: its portal's colour scheme, or else what its own palette tells. There is an
+/// application already.
+Theme ThemeOfDesktop();
 
 /// Gives the whole program a theme.
 void ApplyTheme(QApplication& app, Theme theme);

@@ -37,12 +37,12 @@ void EndWhenIdle() {
     });
 }
 
-int StartEmpty(QApplication& app) {
+int StartEmpty() {
     QMainWindow window;
     window.resize(1240, 680);
     window.show();
     EndWhenIdle();
-    return app.exec();
+    return QApplication::exec();
 }
 
 int StartMainMenu(QApplication& app) {
@@ -50,7 +50,7 @@ int StartMainMenu(QApplication& app) {
     QtScreen screen;
     Show(FormName::frmVeraqua);
     EndWhenIdle();
-    return app.exec();
+    return QApplication::exec();
 }
 
 double MillisecondsOf(const QString& what) {
@@ -95,7 +95,7 @@ int main(int argumentCount, char** arguments) {
     const std::string what = argumentCount > 1 ? arguments[1] : "30";
     if (what == "main-menu") ReadFontsAhead();
     QApplication app(argumentCount, arguments);
-    if (what == "empty") return StartEmpty(app);
+    if (what == "empty") return StartEmpty();
     if (what == "main-menu") return StartMainMenu(app);
     return Measure(std::max(1, std::atoi(what.c_str())));
 }
