@@ -5,17 +5,11 @@
 
 #include "desktop/text.h"
 #include "desktop/widget_view.h"
+#include "screen/overloaded.h"
 
 namespace veraqua {
 
 namespace {
-
-template <class... Kinds>
-struct Overloaded : Kinds... {
-    using Kinds::operator()...;
-};
-template <class... Kinds>
-Overloaded(Kinds...) -> Overloaded<Kinds...>;
 
 /// A label whose caption heads a column of a listing, which fetches it.
 class HeadingView : public ControlView {

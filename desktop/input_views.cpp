@@ -217,8 +217,7 @@ std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, Calendar& calendar, 
 
 std::unique_ptr<ControlView> MakeOption(ControlEntry& entry, OptionButton& option, QWidget* widget, FormTable& form,
                                         ControlEvents& events) {
-    auto* shown = dynamic_cast<QRadioButton*>(widget);
-    return shown == nullptr ? nullptr : std::make_unique<OptionView>(entry, option, *shown, events, form);
+    return ViewOn<OptionView, QRadioButton>(entry, option, widget, events, form);
 }
 
 }  // namespace veraqua

@@ -58,9 +58,9 @@ class CopyKey : public QObject {
 
 /// A heading of several words in two lines, so that a column is hardly wider than its cells.
 QString Narrow(const QString& heading) {
-    constexpr qsizetype NarrowEnough = 7;
+    constexpr qsizetype narrowEnough = 7;
     const QString firstLine = heading.section('\n', 0, 0);
-    if (firstLine.size() <= NarrowEnough) return heading;
+    if (firstLine.size() <= narrowEnough) return heading;
     const auto widthBrokenAt = [&firstLine](qsizetype blank) { return std::max(blank, firstLine.size() - blank - 1); };
     qsizetype best = -1;
     for (qsizetype blank = firstLine.indexOf(' '); blank >= 0; blank = firstLine.indexOf(' ', blank + 1))
@@ -283,8 +283,7 @@ std::unique_ptr<ControlView> MakeTable(ControlEntry& entry, Table& table, QWidge
 
 std::unique_ptr<ControlView> MakeListing(ControlEntry& entry, TextBox& box, QWidget* widget, FormTable& form,
                                          ControlEvents& events) {
-    auto* shown = dynamic_cast<QTableView*>(widget);
-    return shown == nullptr ? nullptr : std::make_unique<ListingView>(entry, box, *shown, events, form);
+    return ViewOn<ListingView, QTableView>(entry, box, widget, events, form);
 }
 
 }  // namespace veraqua

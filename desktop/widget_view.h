@@ -61,11 +61,12 @@ class WidgetView : public ControlView {
     bool bringing_ = false;
 };
 
-/// The view of a control whose widget is a W; null if it is none.
-template <class View, class W, class C>
-std::unique_ptr<ControlView> ViewOn(ControlEntry& entry, C& control, QWidget* widget, ControlEvents& events) {
+/// The view of a control whose widget is a W; null if it is none. `more` goes to the view's constructor as well.
+template <class View, class W, class C, class... More>
+std::unique_ptr<ControlView> ViewOn(ControlEntry& entry, C& control, QWidget* widget, ControlEvents& events,
+                                    More&... more) {
     W* shown = dynamic_cast<W*>(widget);
-    return shown == nullptr ? nullptr : std::make_unique<View>(entry, control, *shown, events);
+    return shown == nullptr ? nullptr : std::make_unique<View>(entry, control, *shown, events, more...);
 }
 
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, TextBox& box, QWidget* widget, ControlEvents& events);

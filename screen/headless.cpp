@@ -2,16 +2,11 @@
 
 #include <stdexcept>
 
+#include "screen/overloaded.h"
+
 namespace veraqua {
 
 namespace {
-
-template <class... Kinds>
-struct Overloaded : Kinds... {
-    using Kinds::operator()...;
-};
-template <class... Kinds>
-Overloaded(Kinds...) -> Overloaded<Kinds...>;
 
 [[noreturn]] void Misuse(const FormTable& form, std::string_view name, std::string_view why) {
     throw std::logic_error(std::string(form.Text) + "." + std::string(name) + " " + std::string(why));
