@@ -22,13 +22,23 @@ static void TakeResources() {
 
 namespace veraqua {
 
+namespace {
+
+std::thread& FontReader() {
+    static std::thread reader;
+    return reader;
+}
+
+}  // namespace
+
 void ReadFontsAhead() {
-    // The toolkit asks the same library later, and waits for it.
-    std::thread([] { FcInit(); }).detach();
+    FontReader() = std::thread([] { FcInit(); });
 }
 
 void PrepareApplication(QApplication& app) {
     TakeResources();
+    // Whoever asks for fonts before they are there would read them all once more.
+    if (FontReader().joinable()) FontReader().join();
     QApplication::setOrganizationName("veraqua");
     QApplication::setApplicationName("veraqua");
     QApplication::setApplicationDisplayName({});  // the windows have titles of their own

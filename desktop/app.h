@@ -5,6 +5,7 @@
 namespace veraqua {
 
 /// Begins to read what fonts there are, beside the toolkit's own start, which has no need of them yet.
+/// `PrepareApplication` waits for it.
 void ReadFontsAhead();
 
 /// Sets the program's name, icon and theme, and makes all forms known.
