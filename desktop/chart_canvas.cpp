@@ -9,6 +9,8 @@
 #include <memory>
 #include <utility>
 
+#include "core/numbers.h"
+
 namespace veraqua {
 
 namespace {
@@ -73,7 +75,7 @@ void ChartCanvas::Move(double days) {
 void ChartCanvas::PointAt(JulianValue day) {
     if (Plot() == nullptr) return;
     const double pointed = std::clamp<double>(day, plot_->Season().First + 0.5, plot_->Season().Last - 0.5);
-    plot_->PointAt(static_cast<JulianValue>(std::lround(pointed)));
+    plot_->PointAt(static_cast<JulianValue>(RoundHalfEven(pointed)));
     const DayRange days = plot_->Days();
     if (pointed - 0.5 < days.First) Move(pointed - 0.5 - days.First);
     if (pointed + 0.5 > days.Last) Move(pointed + 0.5 - days.Last);
@@ -114,7 +116,7 @@ void ChartCanvas::mouseMoveEvent(QMouseEvent* event) {
     if (dragging_ != Dragging::Nothing) return Drag(event->position());
     const double x = XIn(event->position());
     const bool inside = x >= plot_->Plot().left() && x <= plot_->Plot().right();
-    plot_->PointAt(inside ? std::optional(static_cast<JulianValue>(std::lround(plot_->DayAt(x)))) : std::nullopt);
+    plot_->PointAt(inside ? std::optional(static_cast<JulianValue>(RoundHalfEven(plot_->DayAt(x)))) : std::nullopt);
 }
 
 void ChartCanvas::Drag(const QPointF& position) {

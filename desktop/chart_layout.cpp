@@ -38,7 +38,7 @@ struct NumberAxis {
 
     std::vector<double> Ticks() const {
         std::vector<double> ticks;
-        const int count = static_cast<int>(std::lround((High - Low) / Step));
+        const int count = static_cast<int>(RoundHalfEven((High - Low) / Step));
         for (int i = 0; i <= count; ++i) ticks.push_back(Low + i * Step);
         return ticks;
     }
