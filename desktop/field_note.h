@@ -12,7 +12,6 @@ class FieldNote {
   public:
     void Show(QWidget& input, const QString& why);
     void Clear();
-    bool IsAt(const QWidget* input) const { return input_ == input; }
 
   private:
     QPointer<QWidget> input_;

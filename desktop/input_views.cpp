@@ -104,7 +104,7 @@ class OptionView : public WidgetView<OptionButton, QRadioButton> {
     QString designed_;
 };
 
-/// Gives a list the rows of its record, if it has others. True if it had.
+/// Whether a list shows the rows of its record: `count` of them, each with its `text`.
 bool SameRows(const ItemList& record, int count, const std::function<QString(int)>& text) {
     if (static_cast<int>(record.Items.size()) != count) return false;
     for (int i = 0; i < count; ++i)
