@@ -15,6 +15,9 @@ namespace veraqua {
 
 namespace {
 
+constexpr int LinesOfMonth = 8;  // its name, the days' names and six weeks
+constexpr int RoomInLine = 8;
+
 /// The day that stands in the input, or today.
 QDate DayShown(const QLineEdit& line) {
     const TypedDate typed = ReadTypedDate(FromQt(line.text().trimmed()));
@@ -33,6 +36,8 @@ void ShowPopup(QLineEdit& line) {
     QMenu popup(&line);
     auto* calendar = new QCalendarWidget(&popup);
     MakePlain(*calendar);
+    // What it asks for by itself leaves no room for a sixth week.
+    calendar->setMinimumHeight(LinesOfMonth * (calendar->fontMetrics().height() + RoomInLine));
     calendar->setSelectedDate(DayShown(line));
     QObject::connect(calendar, &QCalendarWidget::activated, &popup, [&](const QDate& day) {
         popup.close();

@@ -111,8 +111,7 @@ class Preview {
             action->setShortcut(key);
             action->setToolTip(QString("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
             if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action)))
-                button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly
-                                                                   : Qt::ToolButtonTextBesideIcon);
+                button->setToolButtonStyle(Qt::ToolButtonTextOnly);
         };
         for (QAction* action : bar->actions())
             if (action->text() == QPrintPreviewDialog::tr("Print")) name(action, "Print...", QKeySequence::Print);

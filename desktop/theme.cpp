@@ -96,6 +96,7 @@ QLineEdit:read-only { background: transparent; border: 1px solid transparent; }
 QLineEdit:disabled { color: %quiet%; }
 QLineEdit[refused="true"], QComboBox[refused="true"] { border: 2px solid %refused%; }
 QComboBox { padding: 4px 8px; }
+QComboBox:editable { padding: 1px 4px; min-height: 24px; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow { image: url(:/pictures/arrow_down.svg); width: 12px; height: 12px; }
 QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %quiet%; border-radius: 8px; background: %base%; }
