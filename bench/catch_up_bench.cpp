@@ -16,7 +16,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/farm.h"
-#include "core/files.h"
+#include "core/files/files.h"
 
 /// The nightly catch-up: `veraqua-cli field update` of 100 fields, computed and durable, against the least that it can
 /// take.

@@ -9,7 +9,7 @@
 #include "core/crop_table.h"
 #include "core/directory.h"
 #include "core/field_file.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "data/embedded.h"
 #include "engine/season_run.h"

@@ -3,7 +3,7 @@
 
 #include "bench/farm.h"
 #include "catch_up/weather_commands.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 
 namespace veraqua::bench {

@@ -4,7 +4,7 @@
 
 #include "core/directory.h"
 #include "core/field_file.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "engine/season_run.h"
 #include "weather/coverage.h"

@@ -4,8 +4,8 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "weather/import.h"
 #include "weather/network_text.h"

@@ -3,8 +3,8 @@
 #include "core/directory.h"
 #include "core/state.h"
 #include "screen/headless.h"
-#include "workbench/field_menu.h"
-#include "workbench/harvest.h"
+#include "workbench/forms/field_menu.h"
+#include "workbench/forms/harvest.h"
 
 namespace veraqua {
 

@@ -7,12 +7,12 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "core/state.h"
-#include "reports/forms.h"
-#include "shell/forms.h"
+#include "reports/forms/forms.h"
+#include "shell/forms/forms.h"
 #include "weather/forms/forms.h"
-#include "workbench/forms.h"
+#include "workbench/forms/forms.h"
 
 namespace veraqua {
 

@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 #include "screen/headless.h"
-#include "workbench/cuttings.h"
-#include "workbench/water_events.h"
+#include "workbench/forms/cuttings.h"
+#include "workbench/forms/water_events.h"
 
 namespace veraqua {
 

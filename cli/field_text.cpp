@@ -4,11 +4,11 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
+#include "core/base/text_table.h"
+#include "core/base/units.h"
 #include "core/directory.h"
-#include "core/numbers.h"
 #include "core/state.h"
-#include "core/text_table.h"
-#include "core/units.h"
 
 namespace veraqua {
 
@@ -153,7 +153,7 @@ std::string TextOfDays(const FieldFile& file) {
     return table.Text();
 }
 
-std::string TextOf(const Chart& chart) {
+std::string TextOf(const ChartContent& chart) {
     std::vector<TextTable::Column> columns{{"Day", TextTable::Side::Left}};
     std::map<JulianValue, std::vector<std::string>> lines;
     for (const ChartSeries& series : chart.Series) {

@@ -1,9 +1,9 @@
 #include <fmt/format.h>
 
 #include "cli/commands.h"
+#include "core/base/text_table.h"
 #include "core/crop_table.h"
 #include "core/state.h"
-#include "core/text_table.h"
 #include "shell/first_start.h"
 #include "weather/default_weather.h"
 

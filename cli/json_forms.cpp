@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -177,7 +177,7 @@ Json JsonOf(const WeatherDay& day) {
             {"source", day.Source.Text()}};
 }
 
-Json JsonOf(const Chart& chart) {
+Json JsonOf(const ChartContent& chart) {
     Json series = Json::array();
     for (const ChartSeries& one : chart.Series) {
         Json points = Json::array();

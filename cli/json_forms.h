@@ -8,7 +8,7 @@
 
 #include "core/field_file.h"
 #include "core/records.h"
-#include "screen/chart.h"
+#include "core/shown/chart.h"
 
 /// The JSON documents of veraqua-cli. Amounts are metric, fractions as stored; scripts depend on the keys.
 namespace veraqua {
@@ -36,6 +36,6 @@ Json JsonOfDays(const FieldFile& file);
 Json JsonOf(const WeatherDay& day);
 
 /// The series and marks of a season chart.
-Json JsonOf(const Chart& chart);
+Json JsonOf(const ChartContent& chart);
 
 }  // namespace veraqua

@@ -3,13 +3,13 @@
 #include <fmt/format.h>
 
 #include "cli/commands.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "screen/headless.h"
-#include "workbench/field_menu.h"
-#include "workbench/new_field.h"
-#include "workbench/soil_copy.h"
+#include "workbench/forms/field_menu.h"
+#include "workbench/forms/new_field.h"
+#include "workbench/forms/soil_copy.h"
 
 namespace veraqua {
 

@@ -7,10 +7,10 @@
 #include <fmt/format.h>
 
 #include "cli/field_text.h"
+#include "core/base/text.h"
 #include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "screen/forms.h"
 #include "shell/data_search.h"
 #include "weather/coverage.h"

@@ -6,7 +6,7 @@
 
 #include "cli/cli_screen.h"
 #include "cli/json_forms.h"
-#include "core/files.h"
+#include "core/files/files.h"
 
 namespace veraqua {
 

@@ -6,8 +6,8 @@
 
 #include "cli/commands.h"
 #include "cli/weather_text.h"
+#include "core/base/numbers.h"
 #include "core/directory.h"
-#include "core/numbers.h"
 #include "core/state.h"
 #include "screen/headless.h"
 #include "weather/coverage.h"

@@ -4,8 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "core/base/text_table.h"
 #include "core/state.h"
-#include "core/text_table.h"
 #include "weather/forms/day_rows.h"
 
 namespace veraqua {

@@ -4,7 +4,7 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
+#include "core/files/files.h"
 
 namespace veraqua {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "core/base/text.h"
 #include "core/calendar.h"
-#include "core/text.h"
 
 namespace veraqua {
 

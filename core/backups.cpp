@@ -4,8 +4,8 @@
 
 #include <fmt/format.h>
 
-#include "core/failure.h"
-#include "core/files.h"
+#include "core/base/failure.h"
+#include "core/files/files.h"
 
 namespace veraqua {
 

@@ -4,9 +4,9 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
+#include "core/base/text_items.h"
+#include "core/files/files.h"
 #include "core/state.h"
-#include "core/text_items.h"
 
 namespace veraqua {
 

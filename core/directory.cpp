@@ -4,11 +4,11 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text_items.h"
+#include "core/files/files.h"
 #include "core/records.h"
 #include "core/state.h"
-#include "core/text_items.h"
 
 namespace veraqua {
 

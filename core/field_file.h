@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/ask.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/records.h"
 
 /// The field files: one per field, with its header, its soil, a row per day since planting and the lists of events that

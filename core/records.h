@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/archive.h"
+#include "core/base/archive.h"
+#include "core/base/text.h"
 #include "core/calendar.h"
-#include "core/text.h"
 
 /// The records of the data files. Each has one `Layout` that lists its members in file order.
 namespace veraqua {

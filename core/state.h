@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 #include "core/records.h"
 
 namespace veraqua {

@@ -8,11 +8,11 @@
 
 #include "desktop/qt_screen.h"
 #include "desktop/theme.h"
-#include "reports/forms.h"
+#include "reports/forms/forms.h"
 #include "screen/forms.h"
-#include "shell/forms.h"
+#include "shell/forms/forms.h"
 #include "weather/forms/forms.h"
-#include "workbench/forms.h"
+#include "workbench/forms/forms.h"
 
 /// What the linker would leave out of a library; by the toolkit's rule outside of all namespaces.
 static void TakeResources() {

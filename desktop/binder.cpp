@@ -16,11 +16,11 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "desktop/date_popup.h"
-#include "desktop/manual_window.h"
+#include "desktop/manual/manual_window.h"
 #include "desktop/panel_area.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
+#include "desktop/views/date_popup.h"
 #include "desktop/windows.h"
 #include "screen/forms.h"
 

@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/control_view.h"
-#include "desktop/field_note.h"
+#include "desktop/views/control_view.h"
+#include "desktop/views/field_note.h"
 #include "screen/form.h"
 
 namespace veraqua {

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "desktop/printing.h"
+#include "desktop/print/printing.h"
 #include "desktop/text.h"
 #include "desktop/window_place.h"
 #include "screen/forms.h"

@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "core/base/failure.h"
+#include "core/base/numbers.h"
 
 namespace veraqua {
 

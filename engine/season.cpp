@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "engine/curves.h"
 #include "weather/default_weather.h"
 

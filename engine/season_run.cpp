@@ -1,8 +1,8 @@
 #include "engine/season_run.h"
 
+#include "core/base/numbers.h"
 #include "core/directory.h"
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "engine/season.h"
 #include "engine/soil_water.h"

@@ -7,8 +7,8 @@
 
 #include <fmt/format.h>
 
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "core/base/failure.h"
+#include "core/base/numbers.h"
 #include "engine/curves.h"
 #include "engine/refill.h"
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <system_error>
 
+#include "core/base/failure.h"
 #include "core/directory.h"
-#include "core/failure.h"
 #include "core/field_file.h"
 #include "core/state.h"
 #include "data/embedded.h"

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/records.h"
 #include "tests/support/script_ask.h"
 

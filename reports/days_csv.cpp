@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "reports/field_days.h"
 
 namespace veraqua {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "screen/controls.h"
+#include "core/shown/colour.h"
 
 namespace veraqua {
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "core/base/units.h"
 #include "core/field_file.h"
-#include "core/units.h"
 
 /// The history of a field day by day: what its stored rows, which are sums and states, say of each day.
 namespace veraqua {

@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
 #include "core/directory.h"
-#include "core/numbers.h"
 #include "core/state.h"
 #include "engine/soil_water.h"
 #include "reports/field_table.h"

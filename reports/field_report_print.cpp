@@ -1,7 +1,6 @@
 #include "reports/field_report_print.h"
 
-#include "core/state.h"
-#include "core/text.h"
+#include "core/base/text.h"
 #include "reports/printed_lines.h"
 #include "reports/report_text.h"
 
@@ -33,11 +32,6 @@ PrintedDocument PrintedFieldReport(const FieldReport& report, JulianValue today)
     AddLines(document, TableFont, {"", " FIELD HISTORY"});
     AddTable(document, TableFont, report.History, DayTableHeadings);
     return document;
-}
-
-void PrintFieldReport(const FieldReport& report) {
-    PrintDocument(PrintedFieldReport(report, State.TodayJulian),
-                  "Field Histroy Report was sent to your default printer");
 }
 
 }  // namespace veraqua

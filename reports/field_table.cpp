@@ -4,7 +4,7 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "reports/field_days.h"
 #include "reports/report_text.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/screen.h"
+#include "core/shown/printed.h"
 
 namespace veraqua {
 

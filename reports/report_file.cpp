@@ -6,10 +6,10 @@
 
 #include <fmt/format.h>
 
-#include "core/data_directory.h"
-#include "core/files.h"
+#include "core/base/text.h"
+#include "core/files/data_directory.h"
+#include "core/files/files.h"
 #include "core/state.h"
-#include "core/text.h"
 
 namespace veraqua {
 

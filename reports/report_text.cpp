@@ -1,6 +1,6 @@
 #include "reports/report_text.h"
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace veraqua {
 

@@ -6,9 +6,9 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/units.h"
 #include "core/state.h"
-#include "core/units.h"
 #include "reports/field_days.h"
 #include "reports/prediction_text.h"
 #include "reports/printed_lines.h"

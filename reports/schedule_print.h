@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/ask.h"
-#include "screen/screen.h"
+#include "core/shown/printed.h"
 
 /// The irrigation schedule as it is printed: for every field when it last had water, how depleted it is, and when and
 /// how much to irrigate next; what is to be done first stands first.

@@ -2,13 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "core/state.h"
-#include "core/text.h"
 #include "reports/field_days.h"
-#include "reports/stored_field.h"
-#include "screen/field_caption.h"
-#include "screen/forms.h"
-#include "screen/screen.h"
 
 namespace veraqua {
 
@@ -51,24 +45,10 @@ class WaterSeries {
     Points measured_, forecast_, full_, mad_, dry_, rain_, irrigation_;
 };
 
-void Load(frmSeasonChart& form) { form.Caption = "Season Chart, Veraqua " + State.VersionString; }
-
-void FillForm(frmSeasonChart& form) {
-    if (State.CurrentField == 0) return;
-    const std::optional<FieldFile> file = StoredField(TheScreen(), State.CurrentField);
-    if (!file) return Unload(FormName::frmSeasonChart);
-    form.Chart1 = SeasonChart(*file, State.Stat[State.CurrentField], State.TodayJulian, State.EnglishUnits);
-    ShowFieldIn(form.StatusBar1);
-    form.Caption = FieldTitle();
-}
-
-void cmdPrint_Click(frmSeasonChart&) { PrintForm(FormName::frmSeasonChart); }
-void cmdExit_Click(frmSeasonChart&) { Unload(FormName::frmSeasonChart); }
-
 }  // namespace
 
-Chart SeasonChart(const FieldFile& file, const StatRecord& row, JulianValue today, bool english) {
-    Chart chart;
+ChartContent SeasonChart(const FieldFile& file, const StatRecord& row, JulianValue today, bool english) {
+    ChartContent chart;
     chart.Title = fmt::format("{} - {}", row.FieldId.Text(), row.CropName.Text());
     chart.DayAxis = "Day";
     chart.ValueAxis = english ? "Water in the root zone (in)" : "Water in the root zone (mm)";
@@ -82,16 +62,6 @@ Chart SeasonChart(const FieldFile& file, const StatRecord& row, JulianValue toda
     if (row.NextIrrAmount > 0 && row.NextIrrDay > 0) chart.Marks.push_back({"Next irrigation", row.NextIrrDay});
     if (file.IsHay && row.NextCutDay > 0) chart.Marks.push_back({"Next cutting", row.NextCutDay});
     return chart;
-}
-
-FormTable TableOf(frmSeasonChart& form) {
-    FormFor table(form, FormName::frmSeasonChart, "frmSeasonChart");
-    table.Add("Chart1", form.Chart1);
-    table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
-    table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
-    table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Fill(FillForm).Close(cmdExit_Click);
-    return table.Done();
 }
 
 }  // namespace veraqua

@@ -2,9 +2,9 @@
 
 #include <fmt/format.h>
 
-#include "core/failure.h"
-#include "core/numbers.h"
-#include "core/units.h"
+#include "core/base/failure.h"
+#include "core/base/numbers.h"
+#include "core/base/units.h"
 #include "engine/refill.h"
 
 namespace veraqua {

@@ -4,8 +4,8 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
-#include "core/units.h"
+#include "core/base/numbers.h"
+#include "core/base/units.h"
 #include "reports/soil_lines.h"
 
 namespace veraqua {

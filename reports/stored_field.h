@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/ask.h"
-#include "core/failure.h"
+#include "core/base/failure.h"
 #include "core/field_file.h"
 
 /// Field files as the reports read them: into locals, whatever field is in work.

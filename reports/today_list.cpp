@@ -9,10 +9,10 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
+#include "core/base/text_table.h"
 #include "core/directory.h"
-#include "core/numbers.h"
 #include "core/state.h"
-#include "core/text_table.h"
 #include "reports/depletion_warning.h"
 #include "reports/prediction_text.h"
 #include "reports/printed_lines.h"
@@ -122,40 +122,40 @@ std::string Days(int count) { return fmt::format("{} {}", count, count == 1 ? "d
 
 constexpr double Behind = std::numeric_limits<double>::infinity();
 
-Table::Cell TextCell(std::string text, std::optional<Colour> background = {}) {
+TableContent::Cell TextCell(std::string text, std::optional<Colour> background = {}) {
     return {std::move(text), std::nullopt, background};
 }
 
-Table::Cell SortedCell(std::string text, double key, std::optional<Colour> background = {}) {
+TableContent::Cell SortedCell(std::string text, double key, std::optional<Colour> background = {}) {
     return {std::move(text), key, background};
 }
 
-Table::Cell WholeNumberCell(int value) { return SortedCell(Masked(static_cast<double>(value), "0"), value); }
+TableContent::Cell WholeNumberCell(int value) { return SortedCell(Masked(static_cast<double>(value), "0"), value); }
 
-Table::Cell DayCell(JulianValue day, std::string text) {
+TableContent::Cell DayCell(JulianValue day, std::string text) {
     return SortedCell(std::move(text), day > BeforeAnyRealDay ? day : Behind);
 }
 
-Table::Cell AmountCell(int millimetres) {
+TableContent::Cell AmountCell(int millimetres) {
     return SortedCell(State.EnglishUnits ? Masked(HundredthsOfInches(millimetres), "0.00") : Plain(millimetres),
                       millimetres);
 }
 
-Table::Cell DepletionCell(const StatRecord& stat) {
-    Table::Cell cell = stat.Depletion < 0 ? SortedCell("Full", stat.Depletion) : WholeNumberCell(stat.Depletion);
+TableContent::Cell DepletionCell(const StatRecord& stat) {
+    TableContent::Cell cell = stat.Depletion < 0 ? SortedCell("Full", stat.Depletion) : WholeNumberCell(stat.Depletion);
     if (const std::optional<Colour> warning = DepletionWarning(stat.Depletion, stat.MadNow))
         cell.Background = warning == colours::Red ? colours::PaleRed : colours::PaleYellow;
     return cell;
 }
 
-Table::Cell WeatherCell(int daysBehind) {
+TableContent::Cell WeatherCell(int daysBehind) {
     const auto background = daysBehind > SoonDays ? std::optional(colours::PaleYellow) : std::nullopt;
     return SortedCell(daysBehind > 0 ? Days(daysBehind) : "", daysBehind > 0 ? -daysBehind : Behind, background);
 }
 
 constexpr std::string_view DaysLeftHeading = "Days left";
 
-std::vector<Table::Column> Columns() {
+std::vector<TableContent::Column> Columns() {
     return {{"Field"},
             {"Crop"},
             {"What to do"},
@@ -170,9 +170,9 @@ std::vector<Table::Column> Columns() {
 }
 
 /// `place` is that in the list.
-std::vector<Table::Cell> CellsOf(const FieldToday& field, int place) {
+std::vector<TableContent::Cell> CellsOf(const FieldToday& field, int place) {
     const StatRecord& stat = field.Stat;
-    const Table::Cell none = SortedCell("", Behind);
+    const TableContent::Cell none = SortedCell("", Behind);
     return {TextCell(stat.FieldId.Text()),
             TextCell(stat.CropName.Text()),
             SortedCell(WhatToDo(field), place, ColourOf(field)),
@@ -191,9 +191,9 @@ std::vector<Table::Cell> CellsOf(const FieldToday& field, int place) {
 constexpr std::size_t PageWidth = 104;
 
 /// A heading that is longer than all cells stands on two lines.
-TextTable::Column OnPaper(const Table& table, std::size_t index) {
+TextTable::Column OnPaper(const TableContent& table, std::size_t index) {
     std::string heading = table.Columns[index].Heading;
-    const auto isLonger = [&](const Table::Row& row) { return heading.size() > row.Cells[index].Text.size(); };
+    const auto isLonger = [&](const TableContent::Row& row) { return heading.size() > row.Cells[index].Text.size(); };
     const std::size_t blank = heading.rfind(' ');
     if (blank != std::string::npos && std::all_of(table.Rows.begin(), table.Rows.end(), isLonger))
         heading[blank] = '\n';
@@ -201,13 +201,13 @@ TextTable::Column OnPaper(const Table& table, std::size_t index) {
 }
 
 /// Without the days that are left, which the words in another column tell.
-TextTable OnPaper(const Table& table) {
+TextTable OnPaper(const TableContent& table) {
     const auto printed = [&](std::size_t column) { return table.Columns[column].Heading != DaysLeftHeading; };
     std::vector<TextTable::Column> columns;
     for (std::size_t i = 0; i < table.Columns.size(); ++i)
         if (printed(i)) columns.push_back(OnPaper(table, i));
     TextTable paper(columns);
-    for (const Table::Row& row : table.Rows) {
+    for (const TableContent::Row& row : table.Rows) {
         std::vector<std::string> cells;
         for (std::size_t i = 0; i < row.Cells.size(); ++i)
             if (printed(i)) cells.push_back(row.Cells[i].Text);
@@ -218,7 +218,7 @@ TextTable OnPaper(const Table& table) {
 
 }  // namespace
 
-void FillTodayList(Table& table) {
+void FillTodayList(TableContent& table) {
     const int selected = table.Selected() != nullptr ? table.Selected()->Data : 0;
     table.Columns = Columns();
     table.Rows.clear();
@@ -244,7 +244,7 @@ std::string TodaySummary() {
     return text;
 }
 
-PrintedDocument PrintedTodayList(const Table& table) {
+PrintedDocument PrintedTodayList(const TableContent& table) {
     PrintedDocument document;
     document.Title = "Veraqua fields today " + JulianToLongText(State.TodayJulian);
     AddLines(document, TitleFont, {document.Title, ""});

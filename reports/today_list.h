@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "screen/controls.h"
-#include "screen/screen.h"
+#include "core/shown/printed.h"
+#include "core/shown/table.h"
 
 /// What is to be done today: every field of the directory in one list, from `Stat` and `Updates` alone. No field file
 /// is read, so that the list stands at once.
@@ -13,12 +13,12 @@ namespace veraqua {
 /// those that soon will (yellow), those with time by the day of their irrigation (green), then those that need no water
 /// any more, the harvests, and last those of which nothing is known. `Data` is the field's row of the directory. A
 /// field that was selected stays so.
-void FillTodayList(Table& table);
+void FillTodayList(TableContent& table);
 
 /// How many fields there are, how many of them need water, and how far their weather is behind.
 std::string TodaySummary();
 
 /// `table` as filled and the summary, on one page.
-PrintedDocument PrintedTodayList(const Table& table);
+PrintedDocument PrintedTodayList(const TableContent& table);
 
 }  // namespace veraqua

@@ -1,49 +1,14 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
+#include "core/shown/chart.h"
 #include "screen/controls.h"
 
 namespace veraqua {
 
-/// Values over days.
-struct ChartSeries {
-    enum class Look {
-        Line,
-        Dashed,  ///< what is expected, not measured
-        Limit,   ///< a quiet line that others are held against
-        Bars,
-    };
-
-    struct Point {
-        JulianValue Day = 0;
-        double Value = 0;
-
-        bool operator==(const Point&) const = default;
-    };
-
-    std::string Name;
-    std::string Unit;
-    Look Shape = Look::Line;
-    std::vector<Point> Points;
-};
-
-/// A day of note, drawn as an upright line.
-struct ChartMark {
-    std::string Name;
-    JulianValue Day = 0;
-
-    bool operator==(const ChartMark&) const = default;
-};
-
 /// A picture of values over the days of a season.
-struct Chart : Control {
-    std::string Title;
-    std::string DayAxis;
-    std::string ValueAxis;
-    std::vector<ChartSeries> Series;
-    std::vector<ChartMark> Marks;
+struct Chart : Control, ChartContent {
+    /// Shows other values in the place of those before.
+    void Show(ChartContent content) { static_cast<ChartContent&>(*this) = std::move(content); }
 };
 
 }  // namespace veraqua

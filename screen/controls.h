@@ -2,39 +2,18 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "core/calendar.h"
+#include "core/shown/colour.h"
+#include "core/shown/table.h"
 
 /// The controls of a form as plain records. They know no toolkit: an event reads and sets them, and the screen shows
 /// what they say.
 namespace veraqua {
-
-struct Colour {
-    std::uint8_t Red = 0;
-    std::uint8_t Green = 0;
-    std::uint8_t Blue = 0;
-
-    bool operator==(const Colour&) const = default;
-};
-
-/// Backgrounds that warn or reassure, and inks. Text on them is black, in a dark theme too.
-namespace colours {
-constexpr Colour Red{255, 0, 0};
-constexpr Colour Orange{255, 128, 0};
-constexpr Colour Yellow{255, 255, 0};
-constexpr Colour Green{128, 255, 128};
-constexpr Colour Blue{0, 0, 255};
-
-/// The same in quiet, for the cells of a table: many of them stand side by side.
-constexpr Colour PaleRed{255, 150, 140};
-constexpr Colour PaleYellow{255, 226, 110};
-constexpr Colour PaleGreen{178, 228, 178};
-}  // namespace colours
 
 /// What all controls share.
 struct Control {
@@ -122,37 +101,8 @@ struct ComboBox : ItemList {
     }
 };
 
-/// A table of rows and columns. Its view may show the rows in another order; `Index` counts in the order of `Rows`.
-struct Table : Control {
-    struct Column {
-        std::string Heading;
-        bool IsNumeric = false;  ///< set to the right
-    };
-
-    struct Cell {
-        std::string Text;
-        std::optional<double> SortKey;  ///< what the row goes by where the column is sorted; nothing: the text
-        std::optional<Colour> Background;
-
-        bool operator==(const Cell&) const = default;
-    };
-
-    struct Row {
-        std::vector<Cell> Cells;  ///< one for each column
-        int Data = 0;             ///< what the row stands for
-
-        bool operator==(const Row&) const = default;
-    };
-
-    std::vector<Column> Columns;
-    std::vector<Row> Rows;
-    int Index = -1;  ///< the row selected, from 0; -1: none
-
-    /// The selected row; null if none is.
-    const Row* Selected() const {
-        return Index >= 0 && Index < static_cast<int>(Rows.size()) ? &Rows[static_cast<std::size_t>(Index)] : nullptr;
-    }
-};
+/// A table. Its view may show the rows in another order; `Index` counts in the order of `Rows`.
+struct Table : Control, TableContent {};
 
 /// One of a group of which only one is chosen; its form keeps the group.
 struct OptionButton : Control {

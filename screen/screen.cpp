@@ -2,7 +2,7 @@
 
 #include <cassert>
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "screen/forms.h"
 
 namespace veraqua {

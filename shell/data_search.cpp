@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
-#include "core/files.h"
+#include "core/base/text.h"
+#include "core/files/files.h"
 #include "core/state.h"
-#include "core/text.h"
 
 namespace veraqua {
 

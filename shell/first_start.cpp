@@ -4,11 +4,11 @@
 #include <iterator>
 
 #include "core/directory.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "data/embedded.h"
-#include "shell/sample_season.h"
-#include "shell/sample_weather.h"
+#include "sample/sample_season.h"
+#include "sample/sample_weather.h"
 
 namespace veraqua {
 

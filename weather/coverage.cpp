@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "weather/default_weather.h"
 #include "weather/weather_file.h"

@@ -5,10 +5,10 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text_items.h"
+#include "core/files/files.h"
 #include "core/state.h"
-#include "core/text_items.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {

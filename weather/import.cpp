@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "weather/default_weather.h"
 #include "weather/network_text.h"

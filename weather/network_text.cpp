@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/calendar.h"
-#include "core/numbers.h"
-#include "core/text.h"
 
 namespace veraqua {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "weather/et_tables.h"
 #include "weather/table_interpolate.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/records.h"
 
 /// The daily weather of a station: one file per calendar year, one record per day of the year, addressed by it.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace veraqua {
 

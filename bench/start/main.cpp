@@ -18,7 +18,7 @@
 
 #include <fmt/format.h>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "desktop/app.h"
 #include "desktop/qt_screen.h"
 #include "desktop/text.h"

@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-#include "core/disk.h"
+#include "core/files/disk.h"
 #include "tests/cli/program.h"
 
 namespace veraqua {

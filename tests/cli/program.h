@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "core/disk.h"
+#include "core/files/disk.h"
 #include "data/embedded.h"
 #include "tests/support/builders.h"
 #include "tests/support/data_directory.h"

@@ -1,12 +1,12 @@
-#include "desktop/chart_view.h"
+#include "desktop/chart/chart_view.h"
 
 #include <QTest>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
-#include "desktop/chart_canvas.h"
-#include "desktop/chart_reading.h"
+#include "desktop/chart/chart_canvas.h"
+#include "desktop/chart/chart_reading.h"
 
 namespace veraqua {
 

@@ -8,9 +8,9 @@
 #include <QPlainTextEdit>
 #include <set>
 
-#include "desktop/control_view.h"
-#include "desktop/manual_window.h"
-#include "reports/graphs.h"
+#include "desktop/manual/manual_window.h"
+#include "desktop/views/control_view.h"
+#include "reports/forms/graphs.h"
 #include "tests/desktop/window_test.h"
 
 /// What every design must keep, whatever the form does.

@@ -1,4 +1,4 @@
-#include "desktop/printing.h"
+#include "desktop/print/printing.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,7 +13,7 @@
 
 #include <gmock/gmock.h>
 
-#include "desktop/printed_pages.h"
+#include "desktop/print/printed_pages.h"
 #include "desktop/text.h"
 
 namespace veraqua {

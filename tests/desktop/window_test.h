@@ -17,7 +17,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "desktop/qt_screen.h"
 #include "desktop/text.h"

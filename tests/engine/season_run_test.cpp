@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 #include "tests/engine/season_fixture.h"
 #include "tests/support/failing_disks.h"
 

@@ -13,7 +13,7 @@ namespace {
 
 /// The fields of 4 May 2003, known through the day before.
 struct TodayOfFields : DirectoryTest {
-    Table List;
+    TableContent List;
 
     TodayOfFields() { State.TodayJulian = MayDay(4); }
 
@@ -24,7 +24,7 @@ struct TodayOfFields : DirectoryTest {
         return field.FieldId = id, field.CropName = "MAIZE GRAIN", field;
     }
 
-    static std::string Shown(const Table::Cell& cell) {
+    static std::string Shown(const TableContent::Cell& cell) {
         const char* colour = !cell.Background                         ? ""
                              : cell.Background == colours::PaleRed    ? " (red)"
                              : cell.Background == colours::PaleYellow ? " (yellow)"
@@ -36,7 +36,7 @@ struct TodayOfFields : DirectoryTest {
     std::vector<std::string> Lines(const std::vector<std::string_view>& headings) {
         std::vector<std::string> lines;
         FillTodayList(List);
-        for (const Table::Row& row : List.Rows) {
+        for (const TableContent::Row& row : List.Rows) {
             std::string line;
             for (std::size_t i = 0; i < List.Columns.size(); ++i)
                 if (std::ranges::count(headings, List.Columns[i].Heading) > 0)

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "desktop/app.h"
 #include "desktop/text.h"

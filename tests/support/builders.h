@@ -10,7 +10,7 @@
 
 #include "core/directory.h"
 #include "core/field_file.h"
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/records.h"
 #include "core/state.h"
 #include "tests/support/script_ask.h"

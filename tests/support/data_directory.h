@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "tests/support/script_ask.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/disk.h"
+#include "core/files/disk.h"
 
 namespace veraqua::files {
 

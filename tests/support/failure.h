@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 /// `statement` ends in a RunTimeFailure whose text satisfies `matcher`.
 #define EXPECT_FAILURE(statement, matcher) \

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/files.h"
+#include "core/files/files.h"
 #include "screen/headless.h"
 #include "tests/support/data_directory.h"
 #include "tests/support/script_ask.h"

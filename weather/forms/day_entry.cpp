@@ -6,9 +6,9 @@
 
 #include <fmt/format.h>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "weather/default_weather.h"

@@ -1,7 +1,7 @@
 #include "weather/forms/day_rows.h"
 
-#include "core/numbers.h"
-#include "core/units.h"
+#include "core/base/numbers.h"
+#include "core/base/units.h"
 #include "weather/network_text.h"
 
 namespace veraqua {

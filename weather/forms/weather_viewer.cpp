@@ -10,10 +10,10 @@
 #include <fmt/format.h>
 
 #include "catch_up/weather_commands.h"
-#include "core/files.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
+#include "core/files/files.h"
 #include "core/state.h"
-#include "core/text.h"
 #include "reports/printed_lines.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"

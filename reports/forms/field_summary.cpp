@@ -1,0 +1,75 @@
+#include "reports/forms/field_summary.h"
+
+#include <fmt/format.h>
+
+#include "core/base/numbers.h"
+#include "core/state.h"
+#include "reports/report_text.h"
+#include "screen/field_caption.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+std::string Percent(double value) { return Masked(value, "0") + "%"; }
+
+void Load(frmFieldData& form) { form.lblPrinted.Visible = false; }
+
+void Fill(frmFieldData& form) {
+    const StatRecord& row = State.Stat[State.CurrentField];
+    const FieldState state = StateInWork();
+    form.txtWeather.Text = state.Weather;
+    const bool behind = row.LastDay < State.TodayJulian - 1;
+    form.Label4.Caption =
+        fmt::format("Water Depletion as of  {}:", ReportDate(behind ? row.LastDay : State.TodayJulian));
+    form.txtDeplete.Text = state.Depletion;
+    form.txtMAD.Text = state.Mad;
+    form.txtEffic.Text = state.Efficiency;
+    ShowPrediction(SummaryPrediction(row, State.TodayJulian, State.MadExceededDay, State.EnglishUnits), form.txtIrrDate,
+                   form.txtIrrAmnt);
+    ShowFieldIn(form.StatusBar1);
+    form.StatusBar1.Panels[0] = fmt::format("Field={}  ID={}", State.CurrentField, IdInWork());
+}
+
+void cmdPrint_Click(frmFieldData& form) {
+    form.lblPrinted.Caption = FieldTitle();
+    form.lblPrinted.Visible = true;
+    PrintForm(FormName::frmFieldData);
+    form.lblPrinted.Visible = false;
+}
+
+void cmdExit_Click(frmFieldData&) { Unload(FormName::frmFieldData); }
+
+}  // namespace
+
+FormTable TableOf(frmFieldData& form) {
+    FormFor table(form, FormName::frmFieldData, "frmFieldData");
+    table.Add("lblPrinted", form.lblPrinted);
+    table.Add("Label3", form.Label3);
+    table.Add("txtWeather", form.txtWeather);
+    table.Add("Label4", form.Label4);
+    table.Add("txtDeplete", form.txtDeplete);
+    table.Add("Label5", form.Label5);
+    table.Add("txtMAD", form.txtMAD);
+    table.Add("lblEffic", form.lblEffic);
+    table.Add("txtEffic", form.txtEffic);
+    table.Add("lbl_next", form.lbl_next);
+    table.Add("txtIrrDate", form.txtIrrDate);
+    table.Add("lbl_amount", form.lbl_amount);
+    table.Add("txtIrrAmnt", form.txtIrrAmnt);
+    table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
+    table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
+    table.Add("StatusBar1", form.StatusBar1);
+    table.Load(Load).Fill(Fill).Close(cmdExit_Click);
+    return table.Done();
+}
+
+FieldState StateInWork() {
+    const StatRecord& row = State.Stat[State.CurrentField];
+    return {ReportDate(State.WeatherLastJulian), Percent(row.Depletion), Percent(row.MadNow),
+            Percent(ToSingle(State.Header().IrrEff * 100.0, "the irrigation efficiency"))};
+}
+
+}  // namespace veraqua

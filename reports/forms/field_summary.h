@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "reports/forms/shown_text.h"
+#include "screen/form.h"
+
+/// The field summary: a field's present state and when to irrigate it, as the user sees it after a run.
+namespace veraqua {
+
+struct frmFieldData : Form {
+    frmFieldData() { Caption = "FIELD IRRIGATION INFORMATION"; }
+
+    Label lblPrinted;  ///< names the field on the printed image
+    Label Label3{"Last Weather Data:"};
+    ShownText txtWeather;
+    Label Label4{"Water Depletion as of mm-dd-yy:"};
+    ShownText txtDeplete;
+    Label Label5{"Mng. Allowed Deficiency (MAD):"};
+    ShownText txtMAD;
+    Label lblEffic{"Irrigation Efficiency:"};
+    ShownText txtEffic;
+    Label lbl_next{"Next Predicted Irrigation:"};
+    ShownText txtIrrDate;
+    Label lbl_amount{"Suggested Irrigation Amount:"};
+    ShownText txtIrrAmnt;
+    Button cmdPrint{"PRINT"};
+    Button cmdExit{"<-GO BACK"};
+    StatusBar StatusBar1;
+};
+
+FormTable TableOf(frmFieldData& form);
+
+/// What both the summary and the details say of the field in work.
+struct FieldState {
+    std::string Weather;  ///< last day with weather; empty where it isn't known
+    std::string Depletion;
+    std::string Mad;
+    std::string Efficiency;
+};
+
+FieldState StateInWork();
+
+}  // namespace veraqua

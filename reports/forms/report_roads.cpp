@@ -1,0 +1,48 @@
+#include "reports/forms/report_roads.h"
+
+#include "core/state.h"
+#include "reports/field_report_print.h"
+#include "reports/forms/report_options.h"
+#include "reports/schedule.h"
+#include "reports/schedule_print.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+void PrintFieldInWork() {
+    if (const auto report = StoredFieldReport(TheScreen(), State.CurrentField)) PrintFieldReport(*report);
+}
+
+void SaveFieldInWork() {
+    if (ChooseDestination(SavedReport::Field) == ReportDestination::Disk)
+        SaveFieldReport(TheScreen(), State.CurrentField);
+}
+
+}  // namespace
+
+void PrintSchedule() {
+    PrintDocument(PrintedSchedule(TheScreen()),
+                  "Irrigation & Cutting Predictions Report was sent to your default printer");
+}
+
+void PrintFieldReport(const FieldReport& report) {
+    PrintDocument(PrintedFieldReport(report, State.TodayJulian),
+                  "Field Histroy Report was sent to your default printer");
+}
+
+void SaveScheduleByDialog() {
+    if (ChooseDestination(SavedReport::Schedule) == ReportDestination::Disk) SaveSchedule(TheScreen());
+}
+
+void RunFieldReport(std::string_view destination) {
+    if (destination == "printer")
+        PrintFieldInWork();
+    else if (destination == "disk")
+        SaveFieldInWork();
+    else
+        TheScreen().Tell("Error - No choice to save or print report. Contact OLK.", "Error");
+}
+
+}  // namespace veraqua

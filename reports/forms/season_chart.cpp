@@ -1,0 +1,40 @@
+#include "reports/forms/season_chart.h"
+
+#include "core/state.h"
+#include "reports/season_chart.h"
+#include "reports/stored_field.h"
+#include "screen/field_caption.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+void Load(frmSeasonChart& form) { form.Caption = "Season Chart, Veraqua " + State.VersionString; }
+
+void FillForm(frmSeasonChart& form) {
+    if (State.CurrentField == 0) return;
+    const std::optional<FieldFile> file = StoredField(TheScreen(), State.CurrentField);
+    if (!file) return Unload(FormName::frmSeasonChart);
+    form.Chart1.Show(SeasonChart(*file, State.Stat[State.CurrentField], State.TodayJulian, State.EnglishUnits));
+    ShowFieldIn(form.StatusBar1);
+    form.Caption = FieldTitle();
+}
+
+void cmdPrint_Click(frmSeasonChart&) { PrintForm(FormName::frmSeasonChart); }
+void cmdExit_Click(frmSeasonChart&) { Unload(FormName::frmSeasonChart); }
+
+}  // namespace
+
+FormTable TableOf(frmSeasonChart& form) {
+    FormFor table(form, FormName::frmSeasonChart, "frmSeasonChart");
+    table.Add("Chart1", form.Chart1);
+    table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
+    table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
+    table.Add("StatusBar1", form.StatusBar1);
+    table.Load(Load).Fill(FillForm).Close(cmdExit_Click);
+    return table.Done();
+}
+
+}  // namespace veraqua

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "screen/chart.h"
+#include "screen/form.h"
+
+namespace veraqua {
+
+/// The season of the field in work as a picture.
+struct frmSeasonChart : Form {
+    Chart Chart1;
+    Button cmdPrint{"PRINT"};
+    Button cmdExit{"<-GO BACK"};
+    StatusBar StatusBar1;
+};
+
+FormTable TableOf(frmSeasonChart& form);
+
+}  // namespace veraqua

@@ -1,0 +1,146 @@
+#include "sample/sample_weather.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+#include <map>
+
+#include <fmt/format.h>
+
+#include "core/base/numbers.h"
+#include "core/files/files.h"
+#include "core/state.h"
+#include "data/embedded.h"
+#include "weather/default_weather.h"
+#include "weather/import.h"
+#include "weather/weather_file.h"
+
+namespace veraqua {
+
+namespace {
+
+/// A measured year, as the network served it. It has no 29 February.
+struct MeasuredYear {
+    std::string_view Station;
+    int Year;
+    std::string_view File;  ///< below data/shipped
+};
+
+constexpr std::array MeasuredYears{
+    MeasuredYear{"06", 2002, "sample/0602rd.txt"},
+    MeasuredYear{"15", 2022, "sample/1522rd.txt"},
+};
+
+constexpr std::size_t RainColumn = 12;
+constexpr double LeastRain = 1;  ///< mm; a gauge's reading below it isn't written down
+
+/// The text behind the first `count` commas of `line`.
+std::string_view BehindCommas(std::string_view line, std::size_t count) {
+    for (; count > 0; --count) line.remove_prefix(std::min(line.find(','), line.size() - 1) + 1);
+    return line;
+}
+
+std::string_view ColumnOf(std::string_view line, std::size_t column) {
+    const std::string_view rest = BehindCommas(line, column - 1);
+    return rest.substr(0, rest.find(','));
+}
+
+using Lines = std::map<int, std::string_view>;  ///< by day of the measured year
+
+Lines LinesOf(const MeasuredYear& year) {
+    Lines lines;
+    std::string_view rest = EmbeddedFile(year.File);
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        lines[WholeNumber(ColumnOf(line, 2)).value_or(0)] = line;
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+    }
+    return lines;
+}
+
+const MeasuredYear& MeasuredYearOf(std::string_view station) {
+    const auto year = std::ranges::find(MeasuredYears, station, &MeasuredYear::Station);
+    assert(year != MeasuredYears.end());
+    return *year;
+}
+
+/// The line that stands for `day`, or an empty one.
+std::string_view LineFor(const Lines& lines, const MeasuredYear& year, JulianValue day) {
+    const Date date = DateFromJulian(day);
+    if (date.Month == 2 && date.Day == 29) return {};
+    const JulianValue measured = JulianFromDate(date.Month, date.Day, year.Year);
+    const auto line = lines.find(DayOfYearFromJulian(measured).DayOfYear);
+    return line == lines.end() ? std::string_view{} : line->second;
+}
+
+/// The network's text of `year`'s station from `first` to `last`, both of one year.
+std::string TextOf(const MeasuredYear& year, JulianValue first, JulianValue last) {
+    const Lines lines = LinesOf(year);
+    std::string text;
+    for (JulianValue day = first; day <= last; ++day) {
+        const std::string_view line = LineFor(lines, year, day);
+        if (line.empty()) continue;
+        const DayInYear place = DayOfYearFromJulian(day);
+        text += fmt::format("{},{},{}\n", place.Year, place.DayOfYear, BehindCommas(line, 2));
+    }
+    return text;
+}
+
+/// Imports `text` as that of the days from `WeatherNeedFrom` to `WeatherNeedTo`. A text of another station that waits
+/// under the same name stays.
+void ImportText(Ask& ask, std::string text) {
+    const std::string name = NetworkTextName(YearOf(State.WeatherNeedFrom));
+    const auto waiting = files::Read(name);
+    files::Write(name, std::move(text));
+    constexpr ImportWording nothingToTell{};
+    ImportWeather(ask, nothingToTell, true);
+    if (waiting)
+        files::Write(name, *waiting);
+    else
+        files::Remove(name);
+}
+
+void ImportYear(Ask& ask, int year) {
+    State.WeatherNeedFrom = JulianFromDate(1, 1, year);
+    State.WeatherNeedTo = std::min(JulianFromDate(12, 31, year), State.TodayJulian - 1);
+    if (State.WeatherNeedTo < State.WeatherNeedFrom || WeatherFile(State.StationCode, year).Days() > 0) return;
+    ImportText(ask, TextOf(MeasuredYearOf(State.StationCode), State.WeatherNeedFrom, State.WeatherNeedTo));
+    // Where the last days weren't measured the text ends before them.
+    State.WeatherNeedFrom = LastWeatherJulian(State.StationCode, year) + 1;
+    if (State.WeatherNeedFrom <= State.WeatherNeedTo) WriteDefaultWeather();
+}
+
+}  // namespace
+
+std::string StationsOfSample(std::string_view weathdef) {
+    std::string marked;
+    for (int line = 0; !weathdef.empty(); ++line) {  // line 0 holds the counts, line n the name of station n
+        const std::size_t end = std::min(weathdef.find('\n'), weathdef.size());
+        marked += weathdef.substr(0, end);
+        if (std::ranges::find(MeasuredYears, fmt::format("{:02}", line), &MeasuredYear::Station) != MeasuredYears.end())
+            marked += SampleMark;
+        marked += weathdef.substr(end, 1);
+        weathdef.remove_prefix(std::min(end + 1, weathdef.size()));
+    }
+    return marked;
+}
+
+bool ImportSampleWeather(Ask& ask, int firstYear) {
+    if (!LoadWeatherCoefficients(ask, RegionOfStation(State.StationCode))) return false;
+    for (int year = firstYear; year <= YearOf(State.TodayJulian); ++year) ImportYear(ask, year);
+    return true;
+}
+
+std::vector<EventRecord> SampleRain(std::string_view stationCode, JulianValue first, JulianValue last) {
+    const MeasuredYear& year = MeasuredYearOf(stationCode);
+    const Lines lines = LinesOf(year);
+    std::vector<EventRecord> rain;
+    for (JulianValue day = first; day <= last; ++day) {
+        const std::string_view line = LineFor(lines, year, day);
+        const double measured = line.empty() ? 0 : Numeric(ColumnOf(line, RainColumn)).value_or(0);
+        if (measured >= LeastRain) rain.push_back({day, ToInteger16(measured, "the rain")});
+    }
+    return rain;
+}
+
+}  // namespace veraqua

@@ -1,0 +1,119 @@
+#include "shell/forms/data_path.h"
+
+#include <cstdlib>
+#include <initializer_list>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "core/files/files.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+#include "shell/data_search.h"
+#include "shell/first_start.h"
+
+namespace veraqua {
+
+namespace {
+
+void ShowPicker(frmPath& form, bool visible) {
+    for (Control* control : std::initializer_list<Control*>{&form.lblNew, &form.lblPath, &form.lblInstructions,
+                                                            &form.Drive1, &form.Dir1, &form.File1, &form.cmd_OK})
+        control->Visible = visible;
+}
+
+void Dir1_Click(frmPath& form) {
+    form.lblPath.Caption = form.Dir1.Path;
+    form.File1.Clear();
+    for (const std::string& name : form.Dir1.Files) form.File1.Add(name);
+}
+
+void Drive1_Click(frmPath& form) {
+    form.Dir1.Path = form.Drive1.Text;
+    form.Dir1.Files.clear();
+    Dir1_Click(form);
+}
+
+void ListDrives(ComboBox& drives) {
+    const char* home = std::getenv("HOME");
+    if (home != nullptr && *home != '\0') drives.Add(WithSlash(home));
+    drives.Add("/");
+}
+
+void Load(frmPath& form) {
+    form.lblMsg.Caption = fmt::format(
+        "The file WEATHDEF.DAT was not found at the \ndefault location {}/\n\nPlease find it below or exit.  Thank You. ",
+        fmt::join(DefaultDataDirectories(), "/ or "));
+    ListDrives(form.Drive1);
+    form.Drive1.Select(0);
+    Drive1_Click(form);
+    ShowPicker(form, false);
+}
+
+void cmd_Find_Click(frmPath& form) { ShowPicker(form, true); }
+
+void cmd_OK_Click(frmPath& form) {
+    const std::string path = WithSlash(form.Dir1.Path);
+    if (!IsDataDirectory(path)) {
+        TheScreen().Tell(fmt::format("The required file <{}> was not found at: {}", DataDirectoryMarker, path),
+                         "Still Missing!");
+        return;
+    }
+    files::Open(path, files::Access::Write);
+    Unload(FormName::frmPath);
+}
+
+/// Opens the default directory for as long as it is being made, and for good once it is.
+class DirectoryInTheMaking {
+  public:
+    DirectoryInTheMaking() {
+        const std::string path = DefaultDataDirectories().front();
+        files::MakeDirectory(path);
+        files::Open(path, files::Access::Write);
+    }
+    ~DirectoryInTheMaking() {
+        if (!made_) files::Close();
+    }
+    DirectoryInTheMaking(const DirectoryInTheMaking&) = delete;
+    DirectoryInTheMaking& operator=(const DirectoryInTheMaking&) = delete;
+
+    void Made() { made_ = true; }
+
+  private:
+    bool made_ = false;
+};
+
+void StartNew(bool sample) {
+    DirectoryInTheMaking directory;
+    if (MakeDataDirectory(TheScreen(), sample).Refused) return;
+    directory.Made();
+    Unload(FormName::frmPath);
+}
+
+void cmd_Sample_Click(frmPath&) { StartNew(true); }
+
+void cmd_Empty_Click(frmPath&) { StartNew(false); }
+
+void Cmd_Exit_Click(frmPath&) { TheScreen().EndProgram(); }
+
+}  // namespace
+
+FormTable TableOf(frmPath& form) {
+    FormFor table(form, FormName::frmPath, "frmPath");
+    table.Add("lblMsg", form.lblMsg);
+    table.Add("cmd_Sample", form.cmd_Sample).Click(cmd_Sample_Click);
+    table.Add("cmd_Empty", form.cmd_Empty).Click(cmd_Empty_Click);
+    table.Add("cmd_Find", form.cmd_Find).Click(cmd_Find_Click);
+    table.Add("lblInstructions", form.lblInstructions);
+    table.Add("Drive1", form.Drive1).Click(Drive1_Click);
+    table.Add("Dir1", form.Dir1).Click(Dir1_Click);
+    table.Add("File1", form.File1);
+    table.Add("lblNew", form.lblNew);
+    table.Add("lblPath", form.lblPath);
+    table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);
+    table.Add("Cmd_Exit", form.Cmd_Exit).Click(Cmd_Exit_Click).Exit();
+    table.Load(Load).Close(Cmd_Exit_Click);
+    return table.Done();
+}
+
+}  // namespace veraqua

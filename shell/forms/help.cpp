@@ -1,0 +1,69 @@
+#include "shell/forms/help.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/base/text.h"
+#include "core/files/files.h"
+#include "core/state.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+
+namespace veraqua {
+
+namespace {
+
+constexpr std::string_view Manual = "VERAGUIDE.doc";
+
+constexpr std::string_view Instructions =
+    "- CLICK on [Field Options] for all actions & reports relating to your crop fields.\n\n"
+    "- CLICK on [Weather Data] if you need to download or edit weather data.\n\n"
+    "  You will be automatically taken to this screen if your weather data is not current.\n\n"
+    "- CLICK on [Configuration] if you need to verify or change the location of weather data.\n\n"
+    "- CLICK on EXIT if you are done using the program.\n\n"
+    "- CLICK on [User's Manual] at the bottom of this screen for detailed instructions!";
+
+/// Opens the manual in the spelling that it has on disk. False where it is missing or nothing here can show it.
+bool OpenManual() {
+    const std::vector<std::string> names = files::Names();
+    const auto found =
+        std::ranges::find_if(names, [](const std::string& name) { return LowerCase(name) == LowerCase(Manual); });
+    return found != names.end() && TheScreen().OpenDocument(files::DirectoryPath() + *found);
+}
+
+void Load(frmHelp& form) { form.rtbVersion1.Text = State.VersionString; }
+
+void cmd_manual_Click(frmHelp&) {
+    if (!OpenManual()) TheScreen().Tell("Can't find VERAQUA USER'S MANUAL", "VERAQUA ERROR");
+}
+
+void cmdPrint_Click(frmHelp&) { PrintForm(FormName::frmHelp); }
+
+void Leave(frmHelp&) {
+    Show(FormName::frmVeraqua);
+    Unload(FormName::frmHelp);
+}
+
+}  // namespace
+
+frmHelp::frmHelp() {
+    Caption = "Instructions";
+    rtbHelp1.Text = Instructions;
+    rtbHelp1.ReadOnly = true;
+    rtbVersion1.ReadOnly = true;
+    OLE1.Visible = false;
+}
+
+FormTable TableOf(frmHelp& form) {
+    FormFor table(form, FormName::frmHelp, "frmHelp");
+    table.Add("rtbVersion1", form.rtbVersion1);
+    table.Add("rtbHelp1", form.rtbHelp1);
+    table.Add("OLE1", form.OLE1);
+    table.Add("cmd_manual", form.cmd_manual).Click(cmd_manual_Click);
+    table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
+    table.Add("Cmd_Exit", form.Cmd_Exit).Click(Leave).Exit();
+    table.Load(Load).Close(Leave);
+    return table.Done();
+}
+
+}  // namespace veraqua

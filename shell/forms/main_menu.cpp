@@ -1,0 +1,135 @@
+#include "shell/forms/main_menu.h"
+
+#include <cstdint>
+
+#include "core/directory.h"
+#include "core/files/files.h"
+#include "core/state.h"
+#include "reports/today_list.h"
+#include "screen/forms.h"
+#include "screen/screen.h"
+#include "shell/data_search.h"
+
+namespace veraqua {
+
+namespace {
+
+void OpenDefaultDataDirectory() {
+    for (const std::string& path : DefaultDataDirectories()) {
+        if (!IsDataDirectory(path)) continue;
+        files::Open(path, files::Access::Write);
+        return;
+    }
+}
+
+/// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on once he has.
+void StartInDataDirectory() {
+    OpenDefaultDataDirectory();
+    if (files::DirectoryPath().empty()) ShowModal(FormName::frmPath);
+    StartUp(TheScreen());
+    TakeNetworkOfUser();
+}
+
+void Load(frmVeraqua& form) {
+    State.StartDate = TheScreen().Now();
+    try {
+        StartInDataDirectory();
+    } catch (const RunTimeFailure& failure) {
+        // Another program holds the directory, or a file that nothing can do without is damaged.
+        TheScreen().Tell(failure.what(), ProgramTitle, Icon::Stop);
+        TheScreen().EndProgram();
+    }
+    ShowProgramIn(form.StatusBar1);
+}
+
+/// Brings another window up in the place of this one.
+void GoTo(FormName form) {
+    Show(form);
+    Hide(FormName::frmVeraqua);
+}
+
+void cmdfields_Click(frmVeraqua&) {
+    GoTo(FormName::frmField);
+    Fill(FormName::frmField);
+}
+
+void ShowToday(frmVeraqua& form) {
+    FillTodayList(form.Today);
+    const bool hasFields = !form.Today.Rows.empty();
+    form.lblTodayNote.Caption = hasFields ? TodaySummary() + " Open a field with a double click or Enter."
+                                          : "No fields yet. Click on Field Options to add one.";
+    form.cmdOpenToday.Enabled = hasFields;
+    form.cmdPrintToday.Enabled = hasFields;
+}
+
+void Today_Click(frmVeraqua& form) {
+    const Table::Row* row = form.Today.Selected();
+    if (row == nullptr) return;
+    GoTo(FormName::frmField);  // which forgets, where it is loaded anew, the field in work
+    State.CurrentField = static_cast<std::int16_t>(row->Data);
+    Fill(FormName::frmField);
+}
+
+void cmdOpenToday_Click(frmVeraqua& form) {
+    if (form.Today.Selected() == nullptr) form.Today.Index = 0;
+    Today_Click(form);
+}
+
+void cmdPrintToday_Click(frmVeraqua& form) {
+    PrintDocument(PrintedTodayList(form.Today), "The list of fields was sent to your default printer");
+}
+
+void cmdWeather_Click(frmVeraqua&) {
+    State.CallerForm = "frmVeraqua";
+    GoTo(FormName::frmWeather);
+}
+
+void cmdConfig_Click(frmVeraqua&) { GoTo(FormName::frmConfig); }
+
+void cmdHelp_Click(frmVeraqua&) { ShowModal(FormName::frmHelp); }
+
+void cmdExit_Click(frmVeraqua&) {
+    Unload(FormName::frmVeraqua);
+    TheScreen().EndProgram();
+}
+
+void Unloaded(frmVeraqua&) {
+    State.CallerForm.clear();  // no window goes back to this one
+    for (const FormName form : {FormName::frmWeather, FormName::frmKESTA, FormName::frmField, FormName::frmFieldData,
+                                FormName::frmFieldDetails})
+        Unload(form);
+    files::Close();
+}
+
+}  // namespace
+
+void ShowProgramIn(StatusBar& bar) {
+    bar.Panels[0] = " Veraqua " + State.VersionString + " ";
+    bar.Panels[1] = "  Today is " + JulianToLongText(TheScreen().Now());
+}
+
+FormTable TableOf(frmVeraqua& form) {
+    FormFor table(form, FormName::frmVeraqua, "frmVeraqua");
+    table.Add("Label1", form.Label1);
+    table.Add("Label2", form.Label2);
+    table.Add("Image2", form.Image2);
+    table.Add("Label4", form.Label4);
+    table.Add("cmdfields", form.cmdfields).Click(cmdfields_Click);
+    table.Add("Label5", form.Label5);
+    table.Add("cmdWeather", form.cmdWeather).Click(cmdWeather_Click);
+    table.Add("Label6", form.Label6);
+    table.Add("cmdConfig", form.cmdConfig).Click(cmdConfig_Click);
+    table.Add("cmdHelp", form.cmdHelp).Click(cmdHelp_Click);
+    table.Add("Label8", form.Label8);
+    table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
+    table.Add("lblToday", form.lblToday);
+    table.Add("Today", form.Today).Click(Today_Click);
+    table.Add("lblTodayNote", form.lblTodayNote);
+    table.Add("cmdOpenToday", form.cmdOpenToday).Click(cmdOpenToday_Click);
+    table.Add("cmdPrintToday", form.cmdPrintToday).Click(cmdPrintToday_Click);
+    table.Add("StatusBar1", form.StatusBar1);
+    table.Load(Load).Appear(ShowToday).Fill(ShowToday).Close(cmdExit_Click).Unload(Unloaded);
+    return table.Done();
+}
+
+}  // namespace veraqua

@@ -1,0 +1,82 @@
+#include "reports/forms/field_history.h"
+#include "reports/forms/field_summary.h"
+#include "reports/forms/report_roads.h"
+#include "tests/reports/expected_text.h"
+#include "tests/reports/forms/report_forms.h"
+
+namespace veraqua {
+namespace {
+
+struct FieldScreen : ReportForms {
+    /// Shows `form` with the field of row 3 in work and gives what can be read on it.
+    std::string Shown(FormName form) {
+        SelectField(User, 3);
+        State.StationName = "LUNA FLATS";
+        Show(form);
+        Fill(form);
+        return ShownOn(form);
+    }
+};
+
+TEST_F(FieldScreen, SummaryTellsTheStateAndTheNextIrrigation) {
+    StatRecord& row = Stored(3, SmallCrop(), 43, MayDay(5));
+    row.Depletion = -5;
+    row.MadNow = 45;
+    EXPECT_EQ(Shown(FormName::frmFieldData), ExpectedText("summary_crop"));
+}
+
+TEST_F(FieldScreen, DetailsOfACropAreAsExpected) {
+    Stored(3, SmallCrop(), 43, MayDay(5)).Depletion = 45;
+    EXPECT_EQ(Shown(FormName::frmFieldDetails), ExpectedText("details_crop"));
+
+    SmallCrop().Capacity({0, 0, 0}).StoreAt(3);  // nothing can be told of it
+    EXPECT_THROW(Fill(FormName::frmFieldDetails), RunTimeFailure);
+    EXPECT_EQ(ShownOn(FormName::frmFieldDetails), ExpectedText("details_crop"));
+}
+
+TEST_F(FieldScreen, DetailsOfHayAreAsExpected) {
+    State.EnglishUnits = false;
+    AField meadow = InLayers(SmallHay());
+    for (std::int16_t day = 2; day <= 12; ++day) meadow.Rain(MayDay(day), day);
+    Stored(3, meadow, AmountHarvest).NextCutDay = MayDay(30);
+    EXPECT_EQ(Shown(FormName::frmFieldDetails), ExpectedText("details_hay"));
+}
+
+TEST_F(FieldScreen, HistoryOfACropIsAsExpected) {
+    Stored(3, SmallCrop(), 43, MayDay(5));
+    EXPECT_EQ(Shown(FormName::frmFieldHistory), ExpectedText("history_crop"));
+}
+
+TEST_F(FieldScreen, HistoryOfHayHasItsCuttingsAndNoRoots) {
+    State.EnglishUnits = false;
+    Stored(3, SmallHay(), AmountHarvest);
+    Shown(FormName::frmHayFieldHistory);
+    EXPECT_EQ(The<frmHayFieldHistory>().txtIDate.Text, "Harvest Soon!");
+    At(FormName::frmHayFieldHistory).Click("cmdPrintAll");
+    EXPECT_EQ(OnPaper(User.Printed.back()), ExpectedText("history_print_hay"));
+}
+
+TEST_F(ReportForms, FieldReportOnPaperIsAsExpectedToTheLastBlank) {
+    Stored(2, SmallCrop(), 43, MayDay(5));
+    State.CurrentField = 2;
+    RunFieldReport("printer");
+    EXPECT_EQ(OnPaper(User.Printed.back()), ExpectedText("field_print_crop"));
+    EXPECT_EQ(User.LastSaid(), "Veraqua: Field Histroy Report was sent to your default printer");
+}
+
+TEST_F(ReportForms, FieldReportIsNotSaidToBeSentWhereItWasNot) {
+    Stored(2, SmallCrop(), 43, MayDay(5));
+    State.CurrentField = 3;
+    RunFieldReport("printer");  // there is no file
+    State.CurrentField = 2;
+    User.Printer = {PrintEnding::Left, ""};
+    RunFieldReport("printer");
+    User.Printer = {PrintEnding::Failed, "out of paper"};
+    RunFieldReport("printer");
+    RunFieldReport("screen");
+    EXPECT_THAT(User.Texts(), testing::ElementsAre(testing::HasSubstr("Your field file is missing"), "out of paper",
+                                                   "Error - No choice to save or print report. Contact OLK."));
+}
+
+}  // namespace
+}  // namespace veraqua

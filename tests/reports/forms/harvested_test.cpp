@@ -1,0 +1,91 @@
+#include "reports/forms/harvested.h"
+
+#include "reports/forms/report_roads.h"
+#include "tests/reports/expected_text.h"
+#include "tests/reports/forms/report_forms.h"
+
+namespace veraqua {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+/// A harvested crop and a harvested meadow, while another field is in work.
+struct HarvestedFields : ReportForms {
+    HarvestedFields() {
+        files::Write("Meadow    _010903_ 1.dat", FieldFileBytes(SmallHay()));
+        files::Write("North     _010903_ 1.dat", FieldFileBytes(SmallCrop().Id("NORTH Ñ")));
+        State.IsHay = true;
+        State.Hay.FieldId = "IN WORK";
+        Show(FormName::frmSelectHarvested);
+    }
+
+    void Choosing(std::string_view button) {
+        User.WhenShown(FormName::frmReportOptions, [button] { At(FormName::frmReportOptions).Click(button); });
+    }
+
+    frmSelectHarvested& Screen = The<frmSelectHarvested>();
+};
+
+TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
+    EXPECT_THAT(Screen.ComboDField.Items,
+                ElementsAre(ListItem{"Meadow  -  @Alfalfa", 0}, ListItem{"NORTH Ñ  -  Sugar Beet", 0}));
+    Choosing("cmd_OK");
+    At user(FormName::frmSelectHarvested);
+    user.Pick("ComboDField", 1).Click("cmdOK");
+
+    // The report of the field when it stood, with all four leachings and without predictions.
+    std::string expected = ExpectedText("field_crop_zones_english");
+    const std::size_t predictions = expected.find(" PREDICTIONS:");
+    expected.erase(predictions, expected.find(" FIELD HISTORY") - predictions);
+    expected.replace(expected.find("00.08 in"), 8, "00.16 in");
+    EXPECT_EQ(Directory.Raw("Field.txt"), expected);
+
+    Choosing("cmd_print");
+    user.Pick("ComboDField", 0).Click("cmdOK");
+    EXPECT_THAT(OnPaper(User.Printed.back()), HasSubstr("| FIELD ID:        Meadow    \n"));
+    Choosing("cmd_cancel");
+    user.Click("cmdOK").Click("cmdCancel");
+    EXPECT_THAT(User.Printed, SizeIs(1));
+    EXPECT_EQ(State.Hay.FieldId.Text(), "IN WORK");
+}
+
+struct ReportDialog : ReportForms {
+    std::vector<std::string> OpenedWith;  ///< names in the box, each time it opened
+
+    /// What the user does in the dialog from now on.
+    void InDialog(std::function<void(At&)> doing) {
+        User.WhenShown(FormName::frmReportOptions, [this, doing = std::move(doing)] {
+            EXPECT_TRUE(State.ReportCancelled);
+            OpenedWith.push_back(The<frmReportOptions>().Txt_filename.Text);
+            At user(FormName::frmReportOptions);
+            doing(user);
+        });
+    }
+};
+
+TEST_F(ReportDialog, KeepsTheNameThatEachReportUsedLast) {
+    Stored(1, SmallCrop(), 43, MayDay(9));
+    State.CurrentField = 1;
+    const std::string data = Directory.Path();
+
+    InDialog([](At& user) { user.Type("Txt_filename", "July.txt").Click("cmd_OK"); });
+    SaveScheduleByDialog();
+    InDialog([](At& user) {
+        user.Type("Txt_filename", "stat.dat").Click("cmd_OK");  // refused: the dialog stays
+        user.Type("Txt_filename", "north.txt").Press("Txt_filename", Event::EnterKey);
+    });
+    RunFieldReport("disk");
+    InDialog([](At& user) { user.Click("cmd_OK"); });
+    SaveScheduleByDialog();
+    RunFieldReport("disk");
+
+    EXPECT_THAT(OpenedWith,
+                ElementsAre(data + "Predict.txt", data + "Field.txt", data + "July.txt", data + "north.txt"));
+    EXPECT_EQ(User.LastSaid(), "File Saved: Your Field Report was saved to: " + data + "north.txt");
+    EXPECT_TRUE(Directory.Raw("north.txt").starts_with(" FIELD DATA as of 05-04-03"));
+}
+
+}  // namespace
+}  // namespace veraqua

@@ -1,0 +1,158 @@
+#include <cstdlib>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+#include "data/embedded.h"
+#include "reports/forms/forms.h"
+#include "shell/forms/configuration.h"
+#include "shell/forms/data_path.h"
+#include "shell/forms/forms.h"
+#include "shell/forms/main_menu.h"
+#include "tests/support/builders.h"
+#include "tests/support/script_screen.h"
+#include "weather/forms/forms.h"
+#include "workbench/forms/field_menu.h"
+#include "workbench/forms/forms.h"
+
+namespace veraqua {
+namespace {
+
+using testing::HasSubstr;
+
+/// The program on a computer whose user has the data home of the test's directory; no data directory is open yet.
+struct ShellTest : FormTest {
+    ShellTest() {
+        AddShellForms();
+        AddWeatherForms();
+        AddReportForms();
+        AddWorkbenchForms();
+        setenv("XDG_DATA_HOME", (Directory.Path() + "home").c_str(), 1);
+        files::Close();
+    }
+    ~ShellTest() override { unsetenv("XDG_DATA_HOME"); }
+
+    /// A data directory of that name, with nothing in it but the stations.
+    std::string Make(const std::string& name) const {
+        std::filesystem::create_directories(Directory.Path() + name);
+        Directory.Put(name + "/weathdef.dat", EmbeddedFile("weathdef.dat"));
+        return Directory.Path() + name + "/";
+    }
+};
+
+TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
+    const std::string capital = Make("home/Veraqua");
+    Directory.Put("home/Veraqua/network.txt", " http://other.example/data \r\nmore");
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), capital);
+    EXPECT_EQ(std::filesystem::file_size(capital + "stat.dat"), 4100U);
+    EXPECT_EQ(State.BaseUrl, "http://other.example/data/");
+    const auto& panels = The<frmVeraqua>().StatusBar1.Panels;
+    EXPECT_EQ(panels[0] + panels[1], " Veraqua Ver 1.17   Today is 07-15-2003");
+    Show(FormName::frmWeather);
+    EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
+    EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
+    EXPECT_EQ(files::DirectoryPath(), "");
+}
+
+TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
+    const std::string other = Make("other");
+    User.WhenShown(FormName::frmPath, [&] {
+        frmPath& form = The<frmPath>();
+        EXPECT_EQ(form.lblMsg.Caption, "The file WEATHDEF.DAT was not found at the \ndefault location " +
+                                           Directory.Path() + "home/veraqua/ or " + Directory.Path() +
+                                           "home/Veraqua/\n\nPlease find it below or exit.  Thank You. ");
+        At(FormName::frmPath).Click("cmd_Find");
+        form.Dir1.Path = Directory.Path();
+        At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
+        EXPECT_EQ(User.LastSaid(),
+                  "Still Missing!: The required file <weathdef.dat> was not found at: " + Directory.Path());
+        form.Dir1.Path = other;
+        At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
+    });
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), other);
+}
+
+TEST_F(ShellTest, MakesADirectoryForANewUserOrEnds) {
+    for (const auto& [button, fields] : {std::pair{"cmd_Empty", false}, {"cmd_Sample", true}}) {
+        User.WhenShown(FormName::frmPath, [button = button] { At(FormName::frmPath).Click(button); });
+        Show(FormName::frmVeraqua);
+        EXPECT_EQ(files::DirectoryPath(), Directory.Path() + "home/veraqua/");
+        EXPECT_EQ(State.FieldCount > 0, fields);
+        Unload(FormName::frmVeraqua);
+        std::filesystem::remove_all(Directory.Path() + "home");
+    }
+    User.WhenShown(FormName::frmPath, [] {});
+    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
+    EXPECT_FALSE(Directory.Has("home"));
+    Make("home/veraqua");  // the capital one isn't looked at
+    Directory.Put("home/veraqua/weathdef.dat", "33, 6\nFENWOLD\n");
+    FormOf(FormName::frmVeraqua).Loaded = false;
+    EXPECT_THROW(Show(FormName::frmVeraqua), ProgramEnded);
+    EXPECT_THAT(User.LastSaid(), HasSubstr("weathdef.dat"));
+}
+
+TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
+    const std::string path = Make("home/veraqua");
+    Show(FormName::frmVeraqua);
+    frmVeraqua& form = The<frmVeraqua>();
+    EXPECT_EQ(form.lblTodayNote.Caption, "No fields yet. Click on Field Options to add one.");
+    EXPECT_THROW(At(FormName::frmVeraqua).Click("cmdOpenToday"), std::logic_error);
+    AField().Id("FULL").StoreAt(1);
+    AField().Id("DRY").StoreAt(2);
+    State.Stat[2].Depletion = 90;
+    // Known through today, so that nobody is sent for weather.
+    State.TodayJulian = State.Stat[1].LastDay = State.Stat[2].LastDay = State.WeatherLastJulian = User.Today;
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(form.lblTodayNote.Caption, "2 fields, 1 needs water. Open a field with a double click or Enter.");
+    At(FormName::frmVeraqua).Pick("Today", 1);
+    EXPECT_EQ(State.CurrentField, 1);
+    EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
+    EXPECT_EQ(The<frmField>().lbl_ID.Caption, "Field ID is:  FULL");
+    At(FormName::frmField).Click("cmd_return");
+    form.Today.Index = -1;
+    At(FormName::frmVeraqua).Click("cmdOpenToday");  // the worst
+    EXPECT_EQ(State.CurrentField, 2);
+    At(FormName::frmField).Close();
+    At(FormName::frmVeraqua).Click("cmdPrintToday");
+    EXPECT_EQ(User.Printed.back().Title, "Veraqua fields today 07-15-2003");
+    EXPECT_EQ(User.Told.back().Text, "The list of fields was sent to your default printer");
+}
+
+struct Options : ShellTest {
+    frmConfig& Form = The<frmConfig>();
+
+    Options() {
+        Make("home/veraqua");
+        Show(FormName::frmVeraqua);
+        At(FormName::frmVeraqua).Click("cmdConfig");
+    }
+};
+
+TEST_F(Options, PutADateInThePlaceOfTheComputers) {
+    At(FormName::frmConfig).Click("mnuDate");
+    for (const char* text : {"2/30/2005", "2/29/2003", "13/1/2003", "5/5", "5/5/2005/", "", "02/28/05"}) {
+        At(FormName::frmConfig).Type("txtDate", text).Click("cmdOK");
+        EXPECT_EQ(User.LastSaid(),
+                  std::string_view(text).ends_with("/05")  // a day, but not of this calendar
+                      ? "Date input error: Please enter a date (greater than 1900) formated like: MM/DD/YYYY"
+                      : "Date not accepted!: Please enter date like: dd/mm/yyyy")
+            << text;
+        EXPECT_TRUE(State.TodayJulian == JulianFromDate(7, 15, 2003) && User.Now() == State.TodayJulian) << text;
+    }
+    At(FormName::frmConfig).Type("txtDate", " 2/28/2005 ").Click("cmdOK");
+    EXPECT_EQ(User.LastSaid(), "Date Set: New Date set to 02-28-2005.  (Julian Value = 732311).");
+    EXPECT_EQ(State.TodayJulian, 732311);
+    EXPECT_EQ(Form.StatusBar1.Panels[1], "  Today is 02-28-2005");
+    EXPECT_EQ(The<frmVeraqua>().StatusBar1.Panels[1], Form.StatusBar1.Panels[1]);
+}
+
+TEST_F(Options, SetTheUnitsAndTheDisplay) {
+    At(FormName::frmConfig).Click("mnuUnits").Click("optMetric").Click("mnuDisplay").Pick("lstDisplay", 7).Close();
+    EXPECT_FALSE(State.EnglishUnits);
+    EXPECT_EQ(State.DisplayDays, 16);
+}
+
+}  // namespace
+}  // namespace veraqua

@@ -1,0 +1,164 @@
+#include "tests/workbench/forms/field_menu_fixture.h"
+#include "workbench/forms/soil_copy.h"
+#include "workbench/forms/soil_layers.h"
+#include "workbench/forms/soil_zones.h"
+
+namespace veraqua {
+namespace {
+
+struct SoilTest : NewFieldTest {
+    frmCap& Zones = The<frmCap>();
+    frmCapVar& Layers = The<frmCapVar>();
+
+    /// Maize: 39 inches of root depth, or 100 of the metric unit.
+    void AtSoil(FormName form, const std::function<void(At&)>& doing) {
+        Begin(Maize, form == FormName::frmCap ? Fixed : Variable);
+        Describe(("F" + std::to_string(State.FieldCount)).c_str());
+        EnterSoil(form, doing);
+    }
+
+    /// What is said last after an OK with these answers to its questions.
+    std::string AfterOk(At& soil, std::initializer_list<bool> answers) {
+        User.Answers = answers;
+        soil.Click("cmdOK");
+        EXPECT_TRUE(User.Answers.empty());
+        return User.LastSaid();
+    }
+
+    /// The next layer down.
+    static At& Layer(At& soil, int layer, const char* thickness, const char* capacity, const char* content) {
+        const std::string index = "(" + std::to_string(layer) + ")";
+        if (layer > 0) soil.Click("cmdDepth");
+        return soil.Type("txtRoot" + index, thickness).Type("txtcap" + index, capacity).Type("txtcon" + index, content);
+    }
+};
+
+TEST_F(SoilTest, AnIntervalIsTakenWithinItsBoundsAndWithRoomForItsZones) {
+    // Maize roots to 1 m: an eleventh is 3.579 inches or 90.91 mm; the metric bound is a tenth of that.
+    using Row = std::tuple<bool, const char*, std::string, int>;  // English?, typed, bounds if refused, last zone
+    for (const auto& [english, typed, bounds, zoneTop] :
+         {Row{true, "3.5", "3.6 and 396.0", -1}, Row{true, "3.6", "", 10}, Row{true, "396.1", "3.6 and 396.0", -1},
+          Row{true, "x", "3.6 and 396.0", -1}, Row{true, "39.37", "", 1}, Row{false, "9", "9.1 and 1000.0", -1},
+          Row{false, "90.9", "91.0 and 1000.0", -1}, Row{false, "91", "", 10}, Row{false, "1000", "", 1}}) {
+        State.EnglishUnits = english;
+        AtSoil(FormName::frmCap, [text = typed](At& soil) { soil.Type("txtDepth", text).Click("cmdDepth"); });
+        const std::string refused = "Depth Interval Error: Please enter a value between " + bounds;
+        EXPECT_EQ(User.LastSaid(), bounds.empty() ? "" : refused) << typed;
+        EXPECT_EQ(Zones.ZoneTop, zoneTop) << typed;
+        User.Told.clear();
+        AtEntry().Click("cmd_Cancel");  // where leaving the form leads back to
+    }
+}
+
+TEST_F(SoilTest, CapacityAndContentOfZonesHaveTheirBounds) {
+    using Row = std::tuple<bool, const char*, const char*, std::string>;  // English?, entered, what is said
+    const std::string tooLow = "Water Capacity Input Error: Please enter a Capacity Value equal to or greater than ";
+    const std::string error = "Water Content Input Error: Please enter a value ";
+    // 1.5 and 1.6 in/ft are stored as 125 and 133 mm/m, which are 1.5 and 1.596 in/ft.
+    for (const auto& [english, capacity, content, said] :
+         {Row{true, "0.099", "0", tooLow + "0.1 inches/foot."}, Row{true, "0.1", "0", ""},
+          Row{true, "1.5", "1.511", error + "between 0 and 1.51"}, Row{true, "1.5", "-1", error + "between 0 and 1.51"},
+          Row{true, "1.6", "1.601", error + "less than or equal to 1.6"}, Row{true, "1.6", "1.6", ""},
+          Row{false, "6.9", "0", tooLow + "7 mm/meter."}, Row{false, "7", "7", ""},
+          Row{false, "140", "140.1", error + "between 0 and 140"},
+          Row{false, "140", "", error + "between 0 and 140"}}) {
+        State.EnglishUnits = english;
+        AtSoil(FormName::frmCap, [ofCapacity = capacity, ofContent = content](At& soil) {
+            soil.Type("txtDepth", State.EnglishUnits ? "20" : "600").Click("cmdDepth");
+            for (const std::string zone : {"(0)", "(1)"})
+                soil.Type("txtcap" + zone, ofCapacity).Type("txtcon" + zone, ofContent);
+            soil.Click("cmdOK");
+        });
+        EXPECT_EQ(User.LastSaid(), said) << capacity << ' ' << content;
+        EXPECT_EQ(IsLoaded(FormName::frmLoadField), !said.empty());
+        User.Told.clear();
+        Unload(FormName::frmLoadField);
+    }
+}
+
+TEST_F(SoilTest, ThicknessesAreWholeAndEndAtTheRootDepth) {
+    AtSoil(FormName::frmCapVar, [this](At& soil) {
+        const char* below = "For your information...: You have entered soil data below the maximum root depth.";
+        using Row = std::tuple<const char*, bool, const char*, const char*>;  // typed, held, then shown and said
+        for (const auto& [typed, held, shown, said] :
+             {Row{"x", true, "x", "Input Error: Please enter a numeric value"},
+              Row{"0.5", true, "0", "Layer Interval Error: Please enter a value greater than 0"},
+              Row{"12.5", false, "12", ""}, Row{"40", false, "39", below}, Row{"", false, "", ""},
+              Row{"5", false, "5", ""}}) {
+            User.Told.clear();
+            FormOf(FormName::frmCapVar).Focused = nullptr;
+            EXPECT_EQ(At(soil).Type("txtRoot(0)", typed).Enter("txtcap(0)").Held(), held) << typed;
+            EXPECT_EQ(Layers.txtRoot[0].Text, shown);
+            EXPECT_EQ(User.LastSaid(), said);
+        }
+        for (int layer = 0; layer < 6; ++layer) Layer(soil, layer, "5", "1.5", "1");
+        EXPECT_EQ(Layers.lblCumm.Caption, "30 in.");
+        soil.Press("txtcon(5)", Event::EnterKey);
+        EXPECT_EQ(User.LastSaid(), "Sorry...: Maximum of six soil layers allowed");
+        AfterOk(soil, {true});
+    });
+    // 39 - 30 inches are added to the sixth layer of five.
+    EXPECT_FLOAT_EQ(LoadFieldFile(1).Soil.Bounds[5], 14 * 0.0254F);
+}
+
+TEST_F(SoilTest, ARefusedOkChangesNoThickness) {
+    AtSoil(FormName::frmCapVar, [this](At& soil) {
+        const std::string noCapacity = "Water Capacity Input Error: Please enter a Capacity Value greater than 0.";
+        EXPECT_EQ(AfterOk(soil, {true}), noCapacity);  // of the one layer that takes the whole depth
+        Layer(soil, 0, "12", "3.01", "2");
+        AfterOk(soil, {true, false});  // the last layer is to be increased; the capacity is not to be taken
+        EXPECT_EQ(User.LastAsked(),
+                  "Water Capacity Input Warning: Your 'Capacity' value is greater than 3in/ft (250mm/m).  Do you want "
+                  "to proceed?.");
+        soil.Type("txtRoot(0)", "10").Type("txtcap(0)", "3");
+        Layer(soil, 1, "20", "0", "2.12");
+        EXPECT_EQ(AfterOk(soil, {true}), noCapacity);
+        soil.Type("txtcap(1)", "2");  // 166.67, stored as 167 mm/m: 2.004; with a twentieth more 2.104
+        EXPECT_EQ(AfterOk(soil, {true}),
+                  "Water Content Input Error - Out of Bounds: Please enter a value between 0 and 2.10");
+        soil.Type("txtcon(1)", "2.11");
+        EXPECT_EQ(AfterOk(soil, {false}), "Veraqua Warning: Please edit existing layers or add another one");
+        AfterOk(soil, {true});
+    });
+    const FieldFile file = LoadFieldFile(1);
+    EXPECT_FLOAT_EQ(file.Soil.Bounds[1], 29 * 0.0254F);
+    EXPECT_EQ(file.Soil.Capacity[0], 250);             // 3 x 25.4 / 0.3048, asked nothing
+    EXPECT_FLOAT_EQ(file.Days[0].Available, 50.514F);  // 0.254 m of 167 mm/m and 0.046 m of 176 mm/m
+}
+
+TEST_F(SoilTest, TheSoilOfABackupIsCopiedInMetricUnits) {
+    files::Write(
+        "B\u00fcel      _300603_ 1.dat",
+        FieldFileBytes(AField().Hay().Id("B\u00fcel").Layers({0.3F, 0.9F}).Capacity({150, 100}).Content({120, 60})));
+    files::Write("crop notes of the yr.dat", "xx");  // its name is as long as that of a backup
+    State.EnglishUnits = false;
+    Begin(Maize, Fixed);
+    Describe();
+    User.Answers = {true};
+    User.WhenShown(FormName::frmCopySoilData, [this] {
+        const auto& form = The<frmCopySoilData>();
+        At copy(FormName::frmCopySoilData);
+        copy.Click("cmdDeleted");
+        EXPECT_THAT(form.ComboDField.Items,
+                    testing::ElementsAre(ListItem{"B\u00fcel  -  @ALFALFA", 1}, ListItem{"  -  ", 2}));
+        copy.Pick("ComboDField", 0).Pick("ComboDField", 1);
+        EXPECT_EQ(User.Failures.size(), 1U);  // the other file is no field; the preview stays
+        EXPECT_EQ(form.txtData.Text,
+                  "Soil Layers\n Layer 1:   300.00 millimeters\n Layer 2:   900.00 millimeters\n"
+                  "Soil Water Capacity\n0.0 to 300.0mm:  150.0mm/m\n300.0 to 1200.0mm:  100.0mm/m\n"
+                  "Initial Soil Water Content\n0.0 to 300.0mm:  120.0mm/m\n300.0 to 1200.0mm:  60.0mm/m\n");
+        copy.Click("cmdOK");
+    });
+    AtEntry().Click("Opt_deleted");
+    EnterSoil(FormName::frmCapVar, [](At& soil) {
+        // A tenth of the thickness in millimetres, against a root depth in the same measure.
+        EXPECT_EQ(The<frmCapVar>().lblCumm.Caption, "120 mm.");
+        soil.Type("txtRoot(1)", "70").Click("cmdOK");
+    });
+    EXPECT_EQ(User.LastAsked(), "Confirm Data: Do you wish to select the Previewed Soil & Water Data?");
+    EXPECT_FLOAT_EQ(LoadFieldFile(1).Soil.Bounds[1], 0.07F);
+    EXPECT_EQ(AsOf(LoadFieldFile(1), Planting).Content[0], 120);
+}
+
+}  // namespace
+}  // namespace veraqua

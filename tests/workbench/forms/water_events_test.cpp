@@ -1,0 +1,223 @@
+#include "workbench/forms/water_events.h"
+
+#include "reports/report_text.h"
+#include "tests/workbench/forms/field_menu_fixture.h"
+#include "workbench/forms/cuttings.h"
+
+namespace veraqua {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr JulianValue July(int day) { return JulianFromDate(7, day, 2003); }
+
+/// The entry of water for hay or an ordinary crop that stands at yesterday.
+struct WaterTest : FieldMenuTest {
+    frmAddWater& Water = The<frmAddWater>();
+    At Entry{FormName::frmAddWater};
+
+    /// Days so mild that no field dries out.
+    WaterTest() { AWeatherYear("06", 2003).Through(195).Every(AWeatherDay().ReferenceET(2)).Store(); }
+
+    void Open(const AField& field) {
+        Plant(AField(field).Days(ThroughYesterday), 1);
+        Select(0);
+        Menu.Click("MnuPred");
+        Menu.Click("mnuAdd");
+    }
+
+    static FieldLists Stored() { return LoadFieldFile(1).Lists; }
+
+    void Rain(std::string_view date, std::string_view amount) {
+        Entry.Type("txtRainDate", date).Type("txtRainfall", amount).Click("cmdOKRain");
+    }
+};
+
+TEST_F(WaterTest, EachEntryReachesTheFileWithTheRunThatItCauses) {
+    Open(AField());
+    const StatRecord before = State.Stat[1];
+    Rain("7/3/2003", "1.00");
+    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
+    EXPECT_EQ(Water.ListRain.Items.at(0).Text, "07-03-03   ...   1.0 inches");
+    Entry.Type("txtIrrAdd", "7 10 2003").Type("txtIrrigation", "4").Press("txtIrrigation", Event::EnterKey);
+    EXPECT_THAT(Stored().Irrigation, ElementsAre(EventRecord{July(10), 102}));
+    EXPECT_NE(State.Stat[1].Depletion, before.Depletion);
+    const StatRecord row = State.Stat[1];
+    LoadFieldDirectory();
+    EXPECT_EQ(State.Stat[1], row);
+    EXPECT_THAT(Water.lblChange.Caption, HasSubstr("Next irrigation moves from "));
+    Rain("07-03-2003", "0.98");  // 24.9 mm, which are 25
+    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
+    Entry.Click("cmdReturn");
+    EXPECT_THAT(User.Told, IsEmpty());
+    EXPECT_EQ(User.Presented.back(), FormName::frmFieldData);
+}
+
+TEST_F(WaterTest, TheWorkbenchSaysWhenToIrrigateNextAfterEachReturnToIt) {
+    Open(AField());
+    EXPECT_THAT(Form.lblNext.Caption, HasSubstr("Exceeded MAD"));
+    EXPECT_EQ(Form.lblNext.Background, colours::Red);
+    const auto irrigate = [this](std::string_view date) {
+        Entry.Type("txtIrrAdd", date).Type("txtIrrigation", "4").Click("cmdOKIrrigation");
+    };
+    irrigate("7/10/2003");
+    Entry.Click("cmdReturn");
+    const StatRecord& row = State.Stat[1];
+    EXPECT_EQ(Form.lblNext.Caption, "Next irrigation:  " + JulianToShortText(row.NextIrrDay) + "   " +
+                                        IrrigationAmount(row.NextIrrAmount, true));
+    EXPECT_EQ(Form.lblNext.Background, std::nullopt);
+    const std::string wet = Form.lblNext.Caption;
+    Menu.Click("mnuAdd");
+    irrigate("7/12/2003");
+    Entry.Click("cmdCancel");
+    EXPECT_EQ(Form.lblNext.Caption, wet);
+    Menu.Click("mnu_MAD");
+    EXPECT_FALSE(Form.lblNext.Visible);
+    Menu.Press("txtNewMAD", Event::EscapeKey);  // ends the adjustment, not the work on the field
+    EXPECT_FALSE(Form.ShapeMAD.Visible);
+    EXPECT_EQ(State.CurrentField, 1);
+}
+
+TEST_F(WaterTest, RefusesDaysAndAmounts) {
+    Open(AField());
+    const std::string planted =
+        "Invalid Water Date: Use a Date after 05-01-03.  Dates on or prior to planting date are not permitted.";
+    struct Case {
+        const char* Date;
+        const char* Amount;
+        JulianValue DepletionDay, DriedOut;
+        std::string Says;
+        const char* Focus = "txtRainDate";
+    };
+    const Case cases[] = {
+        {"7/3", "1", 0, 0, planted},
+        {"5/1/2003", "1", 0, 0, planted},
+        {"7/16/2003", "1", 0, 0, "Veraqua: Use a Date before 07-16-03.  Dates into the future are not permitted."},
+        {"7/5/2003", "1", July(5), 0,
+         "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' if "
+         "you want to add water."},
+        {"7/9/2003", "1", July(5), July(9),
+         "Depletion Warning: Your field dried out (99% water depletion) on 07-09-03.  Irrigation must be prior to that "
+         "date."},
+        {"7/9/2003", "much", 0, 0, "Missing Data!: Please enter a value for your rainfall amount", "txtRainfall"},
+        {"7/9/2003", "0", 0, 0, "Bad Data!: Please enter a value greater than 0.  Use Delete button if deleting values",
+         "txtRainfall"}};
+    for (const Case& c : cases) {
+        State.Updates[1] = c.DepletionDay;
+        State.DriedOutDay = c.DriedOut;
+        Rain(c.Date, c.Amount);
+        EXPECT_EQ(User.LastSaid(), c.Says);
+        EXPECT_EQ(User.FocusedControls.back(), std::string("frmAddWater.") + c.Focus);
+    }
+    State.Updates[1] = State.DriedOutDay = 0;
+    Rain("7/9/2003", "1291");  // inches: more than 32767 mm
+    EXPECT_THAT(User.Failures, ElementsAre(HasSubstr("Amount of the day")));
+    EXPECT_THAT(Stored().Rain, IsEmpty());
+    EXPECT_THAT(Water.RainEvents, IsEmpty());
+}
+
+TEST_F(WaterTest, DeletesTheSelectedRowOrTheTypedDayAfterAQuestion) {
+    Open(AField().Hay().Rain(July(3), 25).Rain(July(5), 10));
+    Rain("5/1/2003", "1");
+    EXPECT_THAT(User.LastSaid(), HasSubstr("Use a Date after 05-02-03."));  // hay: a day later than what is taken
+    Entry.Pick("ListRain", 0).Click("cmdDeleteR");
+    EXPECT_EQ(User.LastAsked(), "DELETE Confirmation: Are you sure you wish to delete rainfall data on: 07-03-03?");
+    EXPECT_THAT(Stored().Rain, testing::SizeIs(2));
+    User.OtherAnswer = true;
+    Entry.Click("cmdDeleteR");
+    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(5), 10}));
+    Entry.Type("txtRainDate", "7/3/2003").Click("cmdDeleteR");
+    EXPECT_EQ(User.LastSaid(), "Try again...: No matching date found");
+    Entry.Type("txtRainDate", "7/5/2003").Click("cmdDeleteR");
+    EXPECT_THAT(Stored().Rain, IsEmpty());
+}
+
+TEST_F(WaterTest, CancelPutsEverythingBackWhateverTheListsHeld) {
+    for (const int entries : {0, 130}) {
+        AField field;
+        for (int i = 0; i < entries; ++i) field.Irrigation(Planting + 1 - i - 10, 1);  // before anything that counts
+        if (entries > 0)
+            field.With(
+                [](FieldFile& file) { std::reverse(file.Lists.Irrigation.begin(), file.Lists.Irrigation.end()); });
+        Open(field);
+        const auto files = Files();
+        Rain("7/3/2003", "2");
+        Entry.Type("txtIrrAdd", "7/4/2003").Type("txtIrrigation", "2").Click("cmdOKIrrigation");
+        ASSERT_NE(Files(), files);
+        Entry.Click("cmdCancel");
+        EXPECT_EQ(Files(), files) << entries;
+        EXPECT_TRUE(FormOf(FormName::frmField).Shown);
+    }
+}
+
+TEST_F(WaterTest, AFailedRunLeavesListsFileAndRowAsTheyWere) {
+    Open(AField());
+    FieldFile broken = LoadFieldFile(1);
+    broken.Field.IrrEff = 0;
+    StoreFieldFile(1, broken);
+    Entry.Click("cmdCancel");
+    Menu.Click("mnuAdd");
+    const auto files = Files();
+    const StatRecord row = State.Stat[1];
+    Rain("7/3/2003", "0.1");
+    EXPECT_THAT(User.Failures, testing::SizeIs(1));
+    EXPECT_EQ(Files(), files);
+    EXPECT_EQ(State.Stat[1], row);
+    EXPECT_THAT(Water.ListRain.Items, IsEmpty());
+    EXPECT_EQ(State.CurrentField, 1);
+}
+
+struct CutsTest : WaterTest {
+    At Cuts{FormName::frmCuts};
+
+    CutsTest() {
+        Open(AField().Hay());
+        Entry.Click("cmdCancel");
+        Menu.Click("mnuCuts");
+    }
+
+    void Cut(std::string_view date, std::string_view number) {
+        Cuts.Type("txtCutAdd", date).Type("txtCutNumber", number).Press("txtCutNumber", Event::EnterKey);
+    }
+};
+
+TEST_F(CutsTest, RecordsCuttingsFromTheOnsetOfGrowthOnAndCancelPutsThemBack) {
+    const auto files = Files();
+    Cut("5/1/2003", "1");
+    Cut("6/20/2003", "2");
+    Cut("06-20-2003", "3");
+    EXPECT_THAT(Stored().Cuttings, ElementsAre(EventRecord{Planting, 1}, EventRecord{JulianFromDate(6, 20, 2003), 3}));
+    EXPECT_EQ(The<frmCuts>().ListCuts.Items.at(1).Text, "06-20-03   ..........   #3");
+    Cut("6/20/2003", "0");  // removes it
+    EXPECT_THAT(Stored().Cuttings, ElementsAre(EventRecord{Planting, 1}));
+    User.Answers = {true};
+    Cuts.Pick("ListCuts", 0).Click("cmdDelete");
+    EXPECT_EQ(User.LastAsked(), "DELETE Confirmation: Are you sure you wish to delete the CUTTING on: 05-01-03?");
+    EXPECT_THAT(Stored().Cuttings, IsEmpty());
+    Cut("7/10/2003", "2");
+    Cuts.Click("cmdCancel");
+    EXPECT_EQ(Files(), files);
+}
+
+TEST_F(CutsTest, RefusesDaysAndNumbers) {
+    using Row = std::array<std::string, 4>;  // date, number, what is said, where the focus goes
+    for (const auto& [date, number, said, focus] :
+         {Row{"4/30/2003", "1", "Veraqua: Use a Date after 05-01-03.  Only data after growth onset can be used.",
+              "txtCutAdd"},
+          Row{"7/16/2003", "1", "Veraqua: Use a Date before 07-16-03.  Can't count on future weather or work...",
+              "txtCutAdd"},
+          Row{"7/1/2003", "", "Input Error: Please enter a number value for your cut number", "txtCutNumber"},
+          Row{"7/1/2003", "2.5", "Input Error: Please enter a whole number for your cut number", "txtCutNumber"},
+          Row{"7/1/2003", "-1", "Input Error: Please enter a positive whole number for your cut number",
+              "txtCutNumber"}}) {
+        Cut(date, number);
+        EXPECT_EQ(User.LastSaid(), said);
+        EXPECT_EQ(User.FocusedControls.back(), "frmCuts." + focus);
+    }
+    EXPECT_THAT(Stored().Cuttings, IsEmpty());
+}
+
+}  // namespace
+}  // namespace veraqua
