@@ -8,7 +8,7 @@
 
 #include "core/crop_table.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/files/files.h"
 #include "core/state.h"
 #include "data/embedded.h"
@@ -57,7 +57,9 @@ void AddField(Ask& ask, int row, bool hay, std::int16_t days) {
     AddWater(changes);
     if (hay)
         for (std::int16_t cut = 1; cut <= 3; ++cut) changes.Lists.Cuttings.push_back({Planting + 30 * cut, cut});
-    WriteField(changes, soil);
+    FieldFile file = LoadFieldFile(row);
+    WriteField(file, changes);
+    StoreFieldFile(row, file);
 }
 
 }  // namespace

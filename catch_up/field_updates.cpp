@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/files/files.h"
 #include "core/state.h"
 #include "engine/season_run.h"
@@ -24,8 +24,8 @@ UpdateStatus Guarded(Ask& ask, Update update) {
     }
 }
 
-UpdateStatus StatusOf(RunOutcome outcome) {
-    return outcome == RunOutcome::Done ? UpdateStatus::Done : UpdateStatus::Refused;
+UpdateStatus StatusOf(const FieldRun& run) {
+    return run.Outcome == RunOutcome::Done ? UpdateStatus::Done : UpdateStatus::Refused;
 }
 
 /// The field and the station in work before a walk over many fields.

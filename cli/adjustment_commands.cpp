@@ -1,82 +1,59 @@
 #include "cli/commands.h"
 #include "cli/field_text.h"
 #include "core/directory.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
-#include "screen/headless.h"
-#include "workbench/forms/field_menu.h"
-#include "workbench/forms/harvest.h"
+#include "workbench/adjustments.h"
+#include "workbench/harvest.h"
 
 namespace veraqua {
 
 namespace {
 
-/// The names of the controls of an adjustment.
-struct PanelControls {
-    std::string_view Menu;
-    std::string_view Value;
-    std::string_view Accept;
-};
-
-constexpr PanelControls MadPanel{"mnu_MAD", "txtNewMAD", "cmdMADOK"};
-constexpr PanelControls EfficiencyPanel{"mnuIEffic", "TxtNewIRR", "cmdIRROK"};
-constexpr PanelControls DepletionPanel{"mnuDepletion", "TxtNewDepl", "cmdDeplOK"};
-
-const PanelControls& PanelOf(Adjustment what) {
-    switch (what) {
-        case Adjustment::Mad: return MadPanel;
-        case Adjustment::Efficiency: return EfficiencyPanel;
-        case Adjustment::Depletion: break;
-    }
-    return DepletionPanel;
+/// Prints the row of a field that was changed and run.
+int Answer(Session& session, int row, const OrRefused<FieldChange>& outcome) {
+    if (!outcome.IsDone()) return session.Refuse(outcome.Why());
+    return outcome->Run == RunOutcome::Done ? PrintRow(session, row) : ExitRefused;
 }
 
-/// Presses `accept` on an open panel. An accepted panel goes after it has told so; whatever else was told is why it was
-/// not done.
-bool Accept(Session& session, std::string_view panel, std::string_view accept) {
-    const int before = session.Outside.Objections();
-    At(FormName::frmField).Click(accept);
-    const bool accepted = !FormOf(FormName::frmField).Find(panel)->Shared().Visible;
-    return accepted && session.Outside.Objections() == before + 1;
+/// The same of one whose header was changed.
+int Answer(Session& session, int row, const OrRefused<FieldFile>& outcome) {
+    return outcome.IsDone() ? PrintRow(session, row) : session.Refuse(outcome.Why());
 }
 
 }  // namespace
 
 int RunFieldSet(Session& session, int row, Adjustment what, const std::string& value,
                 const std::optional<std::string>& critical) {
-    if (!TakeUpFieldToRun(session, row)) return ExitRefused;
-    if (critical && !State.IsHay) {
-        session.Outside.Tell("Only hay has a critical MAD.");
-        return ExitRefused;
+    if (!session.OpenData(files::Access::Write) || !TakeUpFieldToRun(session, row)) return ExitRefused;
+    if (critical && !State.IsHay) return session.Refuse({"Only hay has a critical MAD."});
+    switch (what) {
+        case Adjustment::Mad: return Answer(session, row, SetMad(session.Outside, value, critical));
+        case Adjustment::Efficiency: return Answer(session, row, SetEfficiency(session.Outside, value));
+        case Adjustment::Depletion: break;
     }
-    const PanelControls& panel = PanelOf(what);
-    At form(FormName::frmField);
-    form.Click(panel.Menu).Type(panel.Value, value);
-    if (what == Adjustment::Mad && State.IsHay)
-        form.Type("txtNewMADC", critical.value_or(std::to_string(State.Hay.MADCritical)));
-    return Accept(session, panel.Value, panel.Accept) ? PrintRow(session, row) : ExitRefused;
+    return Answer(session, row, SetDepletion(session.Outside, value));
 }
 
 int RunFieldReset(Session& session, int row) {
-    if (!TakeUpFieldToRun(session, row)) return ExitRefused;
-    At(FormName::frmField).Click(DepletionPanel.Menu);
-    return Accept(session, DepletionPanel.Value, "cmd_Reset") ? PrintRow(session, row) : ExitRefused;
+    if (!session.OpenData(files::Access::Write) || !TakeUpFieldToRun(session, row)) return ExitRefused;
+    return Answer(session, row, ResetField(session.Outside));
 }
 
 int RunFieldHarvest(Session& session, int row) {
-    if (!TakeUpField(session, row)) return ExitRefused;
-    At(FormName::frmField).Click("mnuDelete");
-    const std::string backup = The<frmField>().BackupName;
-    if (backup.empty()) return ExitRefused;
-    LoadFieldDirectory();  // the workbench's list shows IDs in capitals
+    if (!session.OpenData(files::Access::Write) || !IsField(session, row)) return ExitRefused;
+    if (!SelectField(session.Outside, row)) return ExitRefused;
+    const OrRefused<std::string> backup = HarvestField(session.Outside, row);
+    if (!backup.IsDone()) return session.Refuse(backup.Why());
     const std::vector<int> rows = RowsInUse();
-    session.Print({{"backup", backup}, {"fields", JsonOfRows(rows)}}, TextOfRows(rows));
+    session.Print({{"backup", *backup}, {"fields", JsonOfRows(rows)}}, TextOfRows(rows));
     return ExitDone;
 }
 
 int RunFieldRestore(Session& session, const std::string& backup) {
     if (!session.OpenData(files::Access::Write)) return ExitRefused;
-    const std::optional<int> row = RestoreField(backup);
-    return row ? PrintRow(session, *row) : ExitRefused;
+    const OrRefused<int> row = RestoreField(session.Outside, backup);
+    return row.IsDone() ? PrintRow(session, *row) : session.Refuse(row.Why());
 }
 
 }  // namespace veraqua

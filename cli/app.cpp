@@ -60,6 +60,18 @@ CLI::Option* TakeText(CLI::App* command, const std::string& name, std::optional<
         name, [&value](const std::string& typed) { value = typed; }, what);
 }
 
+/// Lets `command` take one of the words of `choices`, and nothing else, for `value`.
+template <class Value>
+CLI::Option* TakeChoice(CLI::App* command, const std::string& name, Value& value,
+                        const std::map<std::string, Value>& choices, const std::string& what) {
+    std::vector<std::string> words;
+    for (const auto& [word, choice] : choices) words.push_back(word);
+    return command
+        ->add_option_function<std::string>(
+            name, [&value, choices](const std::string& typed) { value = choices.at(typed); }, what)
+        ->check(CLI::IsMember(words));
+}
+
 class ProgramOptions {
   public:
     explicit ProgramOptions(Session& session)
@@ -88,14 +100,14 @@ class ProgramOptions {
             ->type_name("DIR");
         TakeText(&app_, "--today", options.Today, "date that counts as today (default: the clock's)")
             ->type_name("MM-DD-YYYY");
-        app_.add_option("--units", options.Units, "units of input and text output: english or metric")
-            ->check(CLI::IsMember({"english", "metric"}))
+        TakeChoice<bool>(&app_, "--units", options.EnglishUnits, {{"english", true}, {"metric", false}},
+                         "units of input and text output: english or metric")
             ->type_name("UNITS")
-            ->capture_default_str();
-        app_.add_option("--answer", options.Answer, "answer to every question: yes or no")
-            ->check(CLI::IsMember({"yes", "no"}))
+            ->default_str("english");
+        TakeChoice<bool>(&app_, "--answer", options.AnswerIsYes, {{"yes", true}, {"no", false}},
+                         "answer to every question: yes or no")
             ->type_name("ANSWER")
-            ->capture_default_str();
+            ->default_str("no");
         app_.add_option("--base-url", options.BaseUrl,
                         "where the weather network is (default: network.txt, else built in)")
             ->type_name("URL");
@@ -243,7 +255,6 @@ class ProgramOptions {
     void TakeDate(CLI::App* command) { command->add_option("DATE", typed_.Date, "the day")->required()->type_name(""); }
 
     void AddEventCommands() {
-        const std::map<std::string, Water> kinds{{"rain", Water::Rain}, {"irrigation", Water::Irrigation}};
         CLI::App* water = AddGroup("water", "record the rain and irrigation of a field");
         CLI::App* addWater = Add(water, "add", "record water, then run the field", [this](Session& session) {
             return RunWaterAdd(session, typed_.Row, typed_.Kind, typed_.Date, typed_.Amount);
@@ -253,9 +264,9 @@ class ProgramOptions {
                 [this](Session& session) { return RunWaterDelete(session, typed_.Row, typed_.Kind, typed_.Date); });
         for (CLI::App* command : {addWater, deleteWater}) {
             TakeRow(command);
-            command->add_option("KIND", typed_.Kind, "rain or irrigation")
+            TakeChoice<Water>(command, "KIND", typed_.Kind, {{"rain", Water::Rain}, {"irrigation", Water::Irrigation}},
+                              "rain or irrigation")
                 ->required()
-                ->transform(CLI::CheckedTransformer(kinds))
                 ->type_name("");
             TakeDate(command);
         }

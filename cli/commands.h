@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/session.h"
+#include "workbench/water.h"
 
 /// What each command of veraqua-cli does. Each sets the state, calls the routines that the forms call, prints the
 /// outcome and returns the exit status.
@@ -49,8 +50,6 @@ int RunFieldSet(Session& session, int row, Adjustment what, const std::string& v
 int RunFieldReset(Session& session, int row);
 int RunFieldHarvest(Session& session, int row);
 int RunFieldRestore(Session& session, const std::string& backup);
-
-enum class Water { Rain, Irrigation };
 
 int RunWaterAdd(Session& session, int row, Water kind, const std::string& date, const std::string& amount);
 int RunWaterDelete(Session& session, int row, Water kind, const std::string& date);

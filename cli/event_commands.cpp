@@ -1,68 +1,61 @@
 #include "cli/commands.h"
-#include "screen/headless.h"
-#include "workbench/forms/cuttings.h"
-#include "workbench/forms/water_events.h"
+#include "core/base/numbers.h"
+#include "core/base/units.h"
+#include "core/files/files.h"
+#include "core/state.h"
+#include "workbench/cutting.h"
 
 namespace veraqua {
 
 namespace {
 
-/// The names of the controls of one kind of event.
-struct EventControls {
-    FormName Form;
-    std::string_view Menu;  ///< of the workbench, which leads to the form
-    std::string_view Date;
-    std::string_view Amount;
-    std::string_view Record;
-    std::string_view Delete;
-};
-
-constexpr EventControls RainControls{FormName::frmAddWater, "mnuAdd",    "txtRainDate",
-                                     "txtRainfall",         "cmdOKRain", "cmdDeleteR"};
-constexpr EventControls IrrigationControls{FormName::frmAddWater, "mnuAdd",          "txtIrrAdd",
-                                           "txtIrrigation",       "cmdOKIrrigation", "cmdDeleteI"};
-constexpr EventControls CutControls{FormName::frmCuts, "mnuCuts", "txtCutAdd", "txtCutNumber", "cmdOKCut", "cmdDelete"};
-
-const EventControls& ControlsOf(Water kind) { return kind == Water::Rain ? RainControls : IrrigationControls; }
-
-/// Opens the form of the event from the workbench, does `doing` on it, and prints the row once the event is recorded.
-/// What the user was told meanwhile is why it was not recorded, or not run.
-template <class Doing>
-int AtEventForm(Session& session, int row, const EventControls& controls, Doing doing) {
+/// Does `deed` to the field of `row` and prints the row once the change is recorded.
+template <class Deed>
+int AtField(Session& session, int row, Deed deed) {
+    if (!session.OpenData(files::Access::Write)) return ExitRefused;
+    const files::ReadingOnce readingOnce;
     if (!TakeUpFieldToRun(session, row)) return ExitRefused;
-    const int before = session.Outside.Objections();
-    At(FormName::frmField).Click(controls.Menu);
-    if (!IsLoaded(controls.Form)) return ExitRefused;
-    doing(At(controls.Form));
-    const bool done = session.Outside.Objections() == before;
-    if (done || The<frmAddWater>().Recorded || The<frmCuts>().Recorded) PrintRow(session, row);
-    return done ? ExitDone : ExitRefused;
+    const OrRefused<FieldChange> outcome = deed();
+    if (!outcome.IsDone()) return session.Refuse(outcome.Why());
+    PrintRow(session, row);
+    return outcome->Run == RunOutcome::Done ? ExitDone : ExitRefused;
 }
 
-int Add(Session& session, int row, const EventControls& controls, const std::string& date, const std::string& amount) {
-    return AtEventForm(session, row, controls, [&](At form) {
-        form.Type(controls.Date, date).Type(controls.Amount, amount).Click(controls.Record);
+/// 0 where none was read, after a message.
+JulianValue DayOf(Session& session, const std::string& date) { return session.DateFrom(date).value_or(0); }
+
+template <class Deed>
+int AtHay(Session& session, int row, Deed deed) {
+    return AtField(session, row, [&]() -> OrRefused<FieldChange> {
+        if (!State.IsHay) return OnlyHayIsCut();
+        return deed();
     });
-}
-
-int Delete(Session& session, int row, const EventControls& controls, const std::string& date) {
-    return AtEventForm(session, row, controls, [&](At form) { form.Type(controls.Date, date).Click(controls.Delete); });
 }
 
 }  // namespace
 
 int RunWaterAdd(Session& session, int row, Water kind, const std::string& date, const std::string& amount) {
-    return Add(session, row, ControlsOf(kind), date, amount);
+    return AtField(session, row, [&] {
+        const JulianValue day = DayOf(session, date);
+        std::optional<double> mm = Numeric(amount);
+        if (mm && State.EnglishUnits) *mm *= MillimetresPerInch;
+        return RecordWater(session.Outside, kind, day, mm);
+    });
 }
 
 int RunWaterDelete(Session& session, int row, Water kind, const std::string& date) {
-    return Delete(session, row, ControlsOf(kind), date);
+    return AtField(session, row, [&] { return RemoveWater(session.Outside, kind, DayOf(session, date)); });
 }
 
 int RunCutAdd(Session& session, int row, const std::string& date, const std::string& number) {
-    return Add(session, row, CutControls, date, number);
+    return AtHay(session, row, [&] {
+        const JulianValue day = DayOf(session, date);
+        return RecordCutting(session.Outside, day, Numeric(number));
+    });
 }
 
-int RunCutDelete(Session& session, int row, const std::string& date) { return Delete(session, row, CutControls, date); }
+int RunCutDelete(Session& session, int row, const std::string& date) {
+    return AtHay(session, row, [&] { return RemoveCutting(session.Outside, DayOf(session, date)); });
+}
 
 }  // namespace veraqua

@@ -6,7 +6,7 @@
 #include "cli/commands.h"
 #include "cli/field_text.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "reports/days_csv.h"
 #include "reports/season_chart.h"

@@ -104,7 +104,7 @@ class Entry {
 
     /// Yes takes default weather; No leaves without a choice.
     void AtWeatherChooser() {
-        if (session_.Options.Answer == "yes") At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return");
+        if (session_.Options.AnswerIsYes) At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return");
     }
 
     void AtSoilCopy() {

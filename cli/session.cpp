@@ -9,9 +9,8 @@
 #include "cli/field_text.h"
 #include "core/base/text.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
-#include "screen/forms.h"
 #include "shell/data_search.h"
 #include "weather/coverage.h"
 
@@ -19,7 +18,7 @@ namespace veraqua {
 
 bool Session::Prepare() {
     Outside.AllowProgress(!Options.JsonWanted);
-    Outside.SetAnswer(Options.Answer == "yes");
+    Outside.SetAnswer(Options.AnswerIsYes);
     if (!Options.Today) return true;
     const std::optional<JulianValue> today = DateFrom(*Options.Today);
     if (today) Outside.SetNow(*today);
@@ -47,7 +46,7 @@ std::string Session::DirectoryToMake() const {
 void Session::StartSystem() {
     StartUp(Outside);
     State.StartDate = Outside.Now();
-    State.EnglishUnits = Options.Units == "english";
+    State.EnglishUnits = Options.EnglishUnits;
     TakeNetworkOfUser();
     if (!Options.BaseUrl.empty()) State.BaseUrl = WithSlash(Options.BaseUrl);
 }
@@ -71,14 +70,8 @@ bool IsField(Session& session, int row) {
     return false;
 }
 
-bool TakeUpField(Session& session, int row) {
-    if (!session.OpenData(files::Access::Write) || !IsField(session, row)) return false;
-    Show(FormName::frmField);
-    return SelectField(session.Outside, row);
-}
-
 bool TakeUpFieldToRun(Session& session, int row) {
-    return TakeUpField(session, row) &&
+    return IsField(session, row) && SelectField(session.Outside, row) &&
            FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)) != Coverage::RegionMissing;
 }
 

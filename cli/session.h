@@ -7,6 +7,7 @@
 #include "cli/cli_screen.h"
 #include "cli/json_forms.h"
 #include "core/files/files.h"
+#include "workbench/refused.h"
 
 namespace veraqua {
 
@@ -22,8 +23,8 @@ enum ExitStatus : int {
 struct GlobalOptions {
     std::optional<std::string> DataDirectory;
     std::optional<std::string> Today;
-    std::string Units = "english";
-    std::string Answer = "no";
+    bool EnglishUnits = true;
+    bool AnswerIsYes = false;
     std::string BaseUrl;
     bool JsonWanted = false;
 };
@@ -54,6 +55,12 @@ class Session {
     /// Prints `json` where it is wanted, else `text`. If that fails, the user is told.
     void Print(const Json& json, const std::string& text);
 
+    /// Tells why a command was not done, and gives its exit status.
+    int Refuse(const Refused& refused) {
+        Tell(Outside, refused);
+        return ExitRefused;
+    }
+
     /// Whether something that was to be printed could not be.
     bool OutputLost() const { return outputLost_; }
 
@@ -61,11 +68,8 @@ class Session {
     bool outputLost_ = false;
 };
 
-/// Takes the field of `row` up for a command that changes it, as the workbench shows it: opens the data directory,
-/// brings the workbench up and selects the field. False after a message.
-bool TakeUpField(Session& session, int row);
-
-/// The same, and works out how far the field's weather reaches, for a command that runs it. No question is asked.
+/// Takes the field of `row` in work, in the open data directory, and works out how far its weather reaches, for a
+/// command that runs it. No question is asked. False after a message.
 bool TakeUpFieldToRun(Session& session, int row);
 
 /// Prints the field's row of the directory and gives the exit status of a command that is done.

@@ -29,26 +29,20 @@ std::string TenCharacters(std::string_view bytes, std::size_t offset) {
     return text.Text();
 }
 
-std::shared_ptr<const files::Bytes> Opened(const std::string& name) {
-    auto bytes = files::Read(name);
-    if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", name));
-    return bytes;
-}
-
 }  // namespace
 
 std::vector<Backup> FindBackups() {
     std::vector<Backup> backups;
     for (const std::string& name : files::Names()) {
         if (!IsBackupName(name)) continue;
-        const auto bytes = Opened(name);
+        const auto bytes = files::ReadExisting(name);
         backups.push_back({name, TenCharacters(*bytes, IdOffset), TenCharacters(*bytes, CropOffset)});
     }
     return backups;
 }
 
 FieldFile LoadBackup(const std::string& fileName) {
-    const auto bytes = Opened(fileName);
+    const auto bytes = files::ReadExisting(fileName);
     const bool isHay = bytes->size() > CropOffset && (*bytes)[CropOffset] == HayMark;
     return ParseFieldFile(*bytes, isHay, fileName);
 }

@@ -62,7 +62,7 @@ std::vector<Crop> ReadCropTable(Ask& ask) {
     }
     TextItems items(*bytes, CropFile);
     const int count = items.Integer16();
-    if (count < 0) throw RunTimeFailure(fmt::format("{}: {} crops.", CropFile, count));
+    if (count < 0) FailIn(CropFile, fmt::format("{} crops.", count));
     if (count > MaxCrops) {
         ask.Tell("Too many crops in crop.dat.  Redefine with fewer than 200 crops!");
         ask.EndProgram();
@@ -86,7 +86,7 @@ void LoadCropList(Ask& ask) {
 void ReadCrop(Ask& ask, int number) {
     const std::vector<Crop> crops = ReadCropTable(ask);
     if (number < 1 || static_cast<std::size_t>(number) > crops.size())
-        throw RunTimeFailure(fmt::format("{}: it has {} crops, not a crop {}.", CropFile, crops.size(), number));
+        FailIn(CropFile, fmt::format("it has {} crops, not a crop {}.", crops.size(), number));
     const Crop& crop = crops[static_cast<std::size_t>(number - 1)];
     State.IsHay = crop.IsHay();
     State.Field = crop.Field;

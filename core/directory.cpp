@@ -7,7 +7,6 @@
 #include "core/base/numbers.h"
 #include "core/base/text_items.h"
 #include "core/files/files.h"
-#include "core/records.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -22,8 +21,7 @@ constexpr std::size_t StatWidth = StoredSize<StatRecord>();
 constexpr std::size_t UpdatesWidth = sizeof(JulianValue);
 
 void CheckDay(JulianValue day, std::string_view file, int row) {
-    if (!IsPossibleDay(day))
-        throw RunTimeFailure(fmt::format("{}: row {} has the impossible day number {}.", file, row, day));
+    if (!IsPossibleDay(day)) FailIn(file, fmt::format("row {} has the impossible day number {}.", row, day));
 }
 
 void ReadStat(Reader& reader, DirectoryRows<StatRecord>& stat, int rows) {
@@ -53,11 +51,10 @@ void WriteRecord(std::string_view file, const std::string& record, int row) {
 
 void LoadStationNames() {
     State.DefaultStations.clear();
-    const auto bytes = files::Read(DefaultWeatherFile);
-    if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", DefaultWeatherFile));
+    const auto bytes = files::ReadExisting(DefaultWeatherFile);
     TextItems items(*bytes, DefaultWeatherFile);
     const int names = items.Integer16();
-    if (names < 0) throw RunTimeFailure(fmt::format("{}: {} names of stations.", DefaultWeatherFile, names));
+    if (names < 0) FailIn(DefaultWeatherFile, fmt::format("{} names of stations.", names));
     items.Integer16();
     for (int i = 0; i < names; ++i) State.DefaultStations.push_back(items.Text());
 }
@@ -85,11 +82,10 @@ int LowestFreeRow() {
 }
 
 void LoadFieldDirectory() {
-    const auto stat = files::Read(StatFile);
-    if (!stat) throw RunTimeFailure(fmt::format("{}: the file is missing.", StatFile));
+    const auto stat = files::ReadExisting(StatFile);
     const std::size_t wholeRows = stat->size() / StatWidth;
     if (wholeRows > MaxFields)
-        throw RunTimeFailure(fmt::format("{}: {} rows, but there are at most {}.", StatFile, wholeRows, MaxFields));
+        FailIn(StatFile, fmt::format("{} rows, but there are at most {}.", wholeRows, MaxFields));
     const int rows = static_cast<int>(wholeRows);
 
     DirectoryRows<StatRecord> loadedStat;
@@ -107,7 +103,7 @@ void LoadFieldDirectory() {
     State.Updates = loadedUpdates;
 }
 
-void SaveFieldRow(Ask& ask, int row) {
+void WriteFieldRow(Ask& ask, int row, const StatRecord& record, JulianValue depletionDay) {
     for (const auto& [file, text] : {std::pair{StatFile, "Need to create stat.dat - exiting system."},
                                      std::pair{UpdatesFile, "Need to create updates.dat - exiting system."}}) {
         if (!files::Exists(file)) {
@@ -116,16 +112,18 @@ void SaveFieldRow(Ask& ask, int row) {
         }
     }
     files::ChangeSet bothFiles;
-    std::string record;
-    Writer writer(record);
-    Layout(writer, State.Stat[row]);
-    WriteRecord(StatFile, record, row);
+    std::string bytes;
+    Writer writer(bytes);
+    Layout(writer, record);
+    WriteRecord(StatFile, bytes, row);
 
-    record.clear();
-    writer(State.Updates[row]);
-    WriteRecord(UpdatesFile, record, row);
+    bytes.clear();
+    writer(depletionDay);
+    WriteRecord(UpdatesFile, bytes, row);
     bothFiles.Commit();
 }
+
+void SaveFieldRow(Ask& ask, int row) { WriteFieldRow(ask, row, State.Stat[row], State.Updates[row]); }
 
 void WriteDirectory(const std::vector<int>& rows) {
     std::string stat = rows.empty() ? BlankStatFile(MaxFields) : "";

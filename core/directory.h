@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/ask.h"
+#include "core/records.h"
 
 /// The field directory: stat.dat and updates.dat on disk, `Stat` and `Updates` in memory. A field has no number but its
 /// row, which is also the number in its file's name.
@@ -27,6 +28,10 @@ int LowestFreeRow();
 void LoadFieldDirectory();
 
 /// Writes row `row` of both files. If one of them has vanished it tells so and ends the program.
+///   depletionDay  day of the last depletion set by hand; 0: never
+void WriteFieldRow(Ask& ask, int row, const StatRecord& record, JulianValue depletionDay);
+
+/// The same with the row that memory has.
 void SaveFieldRow(Ask& ask, int row);
 
 /// Writes both files anew with `rows` of memory as the rows 1, 2 and so on; without any they are as on a first start.

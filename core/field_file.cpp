@@ -84,9 +84,7 @@ class FieldFileLayout {
 constexpr JulianValue LatestPlantDay = LatestPossibleDay - std::numeric_limits<std::int16_t>::max() - 1;
 
 void CheckHeader(const HeaderCommon& header, bool isHay, std::string_view fileName) {
-    const auto refuse = [fileName](const std::string& what) {
-        throw RunTimeFailure(fmt::format("{}: {}.", fileName, what));
-    };
+    const auto refuse = [fileName](const std::string& what) { FailIn(fileName, fmt::format("{}.", what)); };
     if ((header.CropName.First() == HayMark) != isHay)
         refuse(fmt::format("the crop \"{}\" is not of the kind that the field directory has", header.CropName.Text()));
     for (const int top : {header.CapacityTop, header.ContentTop})
@@ -98,8 +96,7 @@ void CheckHeader(const HeaderCommon& header, bool isHay, std::string_view fileNa
 template <class Record>
 void CheckDays(const std::vector<Record>& list, std::string_view fileName) {
     for (const Record& record : list)
-        if (!IsPossibleDay(record.Day))
-            throw RunTimeFailure(fmt::format("{}: a list has the impossible day {}.", fileName, record.Day));
+        if (!IsPossibleDay(record.Day)) FailIn(fileName, fmt::format("a list has the impossible day {}.", record.Day));
 }
 
 std::size_t TakeCount(Reader& reader, std::string_view what) {
@@ -144,6 +141,10 @@ void ReplaceRows(FieldFile& file, const FieldChanges& changes) {
                                          JulianToLongText(file.Header().PlantDay)));
     file.Days.resize(static_cast<std::size_t>(row));
     file.Days.insert(file.Days.end(), changes.Days.begin(), changes.Days.end());
+}
+
+FieldFile Parsed(const files::Bytes& bytes, int row) {
+    return ParseFieldFile(bytes, State.Stat[row].CropName.First() == HayMark, FieldFileName(row));
 }
 
 }  // namespace
@@ -203,57 +204,24 @@ DayView AsOf(const FieldFile& file, JulianValue day) {
     return view;
 }
 
+JulianValue StateDay(const StatRecord& row, JulianValue today) { return std::min(row.LastDay + 1, today); }
+
 float TotalAmount(const std::vector<EventRecord>& events) {
     float total = 0;
     for (const EventRecord& event : events) total += static_cast<float>(event.Amount);
     return total;
 }
 
-std::shared_ptr<const files::Bytes> OpenField(Ask& ask, int row) {
+FieldFile LoadFieldFile(int row) { return Parsed(*files::ReadExisting(FieldFileName(row)), row); }
+
+std::optional<FieldFile> OpenField(Ask& ask, int row) {
     const std::string name = FieldFileName(row);
-    auto bytes = files::Read(name);
-    if (!bytes) ask.Tell("This is not good. :-( Your field file is missing...  Select another.", "FIELD:  " + name);
-    return bytes;
+    if (const auto bytes = files::Read(name)) return Parsed(*bytes, row);
+    ask.Tell("This is not good. :-( Your field file is missing...  Select another.", "FIELD:  " + name);
+    return std::nullopt;
 }
 
-FieldFile LoadFieldFile(int row) {
-    const std::string name = FieldFileName(row);
-    const auto bytes = files::Read(name);
-    if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", name));
-    return ParseFieldFile(*bytes, State.Stat[row].CropName.First() == HayMark, name);
-}
-
-void TakeInWork(const FieldFile& file) {
-    State.IsHay = file.IsHay;
-    if (file.IsHay)
-        State.Hay = file.Hay;
-    else
-        State.Field = file.Field;
-    State.VariableSoil = file.VariableSoil();
-    State.RainTotal = TotalAmount(file.Lists.Rain);
-    State.IrrigationTotal = TotalAmount(file.Lists.Irrigation);
-}
-
-std::optional<FieldFile> ReadField(Ask& ask) {
-    const auto bytes = OpenField(ask, State.CurrentField);
-    if (!bytes) return std::nullopt;
-    FieldFile file = ParseFieldFile(*bytes, State.IsHay, FieldFileName(State.CurrentField));
-    TakeInWork(file);
-    return file;
-}
-
-bool SelectField(Ask& ask, int row) {
-    State.CurrentField = static_cast<std::int16_t>(row);
-    State.IsHay = State.Stat[row].CropName.First() == HayMark;
-    State.MadExceededDay = 0;
-    State.DriedOutDay = 0;
-    if (!ReadField(ask)) return false;
-    State.StationCode = State.Header().StationCode.Text();
-    State.StationName = StationNameOf(State.StationCode);
-    return true;
-}
-
-void ApplyChanges(FieldFile& file, const FieldChanges& changes) {
+void WriteField(FieldFile& file, const FieldChanges& changes) {
     const FieldLists& added = changes.Lists;
     FieldLists& lists = file.Lists;
     if (!changes.Days.empty()) ReplaceRows(file, changes);
@@ -275,17 +243,6 @@ void ApplyChanges(FieldFile& file, const FieldChanges& changes) {
     finish(lists.Rain, Replace(lists.Rain, added.Rain, changes.RainRemoved));
     finish(lists.Cuttings, Replace(lists.Cuttings, added.Cuttings, changes.CutsRemoved));
     finish(lists.Irrigation, Replace(lists.Irrigation, added.Irrigation, changes.IrrigationRemoved));
-}
-
-void WriteField(const FieldChanges& changes, const SoilProfile& soil) {
-    FieldFile file = LoadFieldFile(State.CurrentField);
-    if (file.IsHay)
-        file.Hay = State.Hay;
-    else
-        file.Field = State.Field;
-    file.Soil = soil;
-    ApplyChanges(file, changes);
-    StoreFieldFile(State.CurrentField, file);
 }
 
 void StoreFieldFile(int row, const FieldFile& file) { files::Write(FieldFileName(row), FieldFileBytes(file)); }

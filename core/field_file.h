@@ -69,33 +69,25 @@ struct DayView {
 
 DayView AsOf(const FieldFile& file, JulianValue day);
 
+/// The day whose row shows the present state of the field with this row of the directory: the day after the last one
+/// with weather, but no later than today.
+JulianValue StateDay(const StatRecord& row, JulianValue today);
+
 /// Sum of a list's amounts, mm, as the single that `RainTotal` and `IrrigationTotal` are.
 float TotalAmount(const std::vector<EventRecord>& events);
 
-/// The bytes of the field file of `row`, or null after the user has been told that it is missing.
-std::shared_ptr<const files::Bytes> OpenField(Ask& ask, int row);
-
-/// The field file of `row` without a word to the user or a change of the state, its kind taken from the row's crop
-/// name. RunTimeFailure if it is missing or damaged.
+/// The field file of `row`, its kind taken from the row's crop name; the state stays as it is. RunTimeFailure if it is
+/// missing or damaged.
 FieldFile LoadFieldFile(int row);
 
-/// Sets the header, `IsHay`, `VariableSoil`, `RainTotal` and `IrrigationTotal` of the field in work to those of `file`.
-void TakeInWork(const FieldFile& file);
-
-/// Reads the file of `CurrentField` and sets its header (`Field` or `Hay`), `VariableSoil`, `RainTotal` and
-/// `IrrigationTotal`. Nothing if the file is missing, after the user has been told.
-std::optional<FieldFile> ReadField(Ask& ask);
-
-/// Makes `row` the field in work: its kind, its header, its station. False if its file is missing, after the user has
-/// been told.
-bool SelectField(Ask& ask, int row);
+/// The same. Nothing if it is missing, after the user has been told.
+std::optional<FieldFile> OpenField(Ask& ask, int row);
 
 /// What a writer brings for a field file. Rows and lists that come in empty are carried over from the file.
 struct FieldChanges {
     JulianValue StartDay = 0;     ///< the day of `Days[0]`
     std::vector<DayRecord> Days;  ///< replace the rows from `StartDay` on; the file ends with the last of them
-    bool Merge =
-        false;  ///< whether Leaching and History are merged: records up to and on `SeamDay` stay, new ones follow
+    bool Merge = false;  ///< Leaching and History are merged: records up to and on `SeamDay` stay, new ones follow
     JulianValue SeamDay = 0;
     FieldLists Lists;          ///< Leaching and History hold the new records; the other lists replace those of the file
     bool RainRemoved = false;  ///< an empty list means that the user has removed all its records
@@ -103,13 +95,9 @@ struct FieldChanges {
     bool IrrigationRemoved = false;
 };
 
-/// Applies `changes` to `file`. From the first list on that has new content (in file order; with new rows all lists) a
+/// Brings `changes` into `file`. From the first list on that has new content (in file order; with new rows all lists) a
 /// list that is left with one record of value 0 loses it: a lone 0 stands for no record.
-void ApplyChanges(FieldFile& file, const FieldChanges& changes);
-
-/// Writes the file of `CurrentField` anew: `changes` applied to what stands there, the header in the state, and `soil`.
-/// RunTimeFailure if the file is missing or damaged.
-void WriteField(const FieldChanges& changes, const SoilProfile& soil);
+void WriteField(FieldFile& file, const FieldChanges& changes);
 
 /// `FieldFileBytes` into the file of `row`.
 void StoreFieldFile(int row, const FieldFile& file);

@@ -1,7 +1,6 @@
 #include "core/field_in_work.h"
 
 #include "core/directory.h"
-#include "core/field_file.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -38,6 +37,35 @@ void RereadRow(int row) {
 }
 
 }  // namespace
+
+void TakeInWork(const FieldFile& file) {
+    State.IsHay = file.IsHay;
+    if (file.IsHay)
+        State.Hay = file.Hay;
+    else
+        State.Field = file.Field;
+    State.VariableSoil = file.VariableSoil();
+    State.RainTotal = TotalAmount(file.Lists.Rain);
+    State.IrrigationTotal = TotalAmount(file.Lists.Irrigation);
+}
+
+std::optional<FieldFile> ReadField(Ask& ask) {
+    std::optional<FieldFile> file = OpenField(ask, State.CurrentField);
+    if (file) TakeInWork(*file);
+    return file;
+}
+
+std::optional<FieldFile> SelectField(Ask& ask, int row) {
+    State.CurrentField = static_cast<std::int16_t>(row);
+    State.IsHay = State.Stat[row].CropName.First() == HayMark;
+    State.MadExceededDay = 0;
+    State.DriedOutDay = 0;
+    std::optional<FieldFile> file = ReadField(ask);
+    if (!file) return std::nullopt;
+    State.StationCode = State.Header().StationCode.Text();
+    State.StationName = StationNameOf(State.StationCode);
+    return file;
+}
 
 void RereadFieldInWork() {
     const int row = State.CurrentField;

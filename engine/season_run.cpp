@@ -2,6 +2,7 @@
 
 #include "core/base/numbers.h"
 #include "core/directory.h"
+#include "core/field_in_work.h"
 #include "core/files/files.h"
 #include "core/state.h"
 #include "engine/season.h"
@@ -11,27 +12,6 @@
 namespace veraqua {
 
 namespace {
-
-/// Puts the row of the field in work back if the run fails before its set of changes is true.
-class RowGuard {
-  public:
-    explicit RowGuard(int row) : row_(row), before_(State.Stat[row]), updatesBefore_(State.Updates[row]) {}
-    ~RowGuard() {
-        if (kept_) return;
-        State.Stat[row_] = before_;
-        State.Updates[row_] = updatesBefore_;
-    }
-    RowGuard(const RowGuard&) = delete;
-    RowGuard& operator=(const RowGuard&) = delete;
-
-    void Keep() { kept_ = true; }
-
-  private:
-    int row_;
-    StatRecord before_;
-    JulianValue updatesBefore_;
-    bool kept_ = false;
-};
 
 /// A season and its harvest may lie in the next years: their weather files are made by looking.
 void MakeWeatherFiles(int firstYear) {
@@ -54,15 +34,6 @@ FieldChanges ChangesOf(const FieldFile& file, Season& season) {
     return changes;
 }
 
-/// The season in memory. A fault of its arithmetic is told with the field's file.
-Season RunFile(const FieldFile& file, const SeasonStart& start, const SeasonWeather& weather, Ask& ask) {
-    try {
-        return RunSeason(file, start, weather, ask);
-    } catch (const RunTimeFailure& failure) {
-        throw RunTimeFailure(FieldFileName(State.CurrentField) + ": " + failure.what());
-    }
-}
-
 void StopRow(const Season& season, StatRecord& row) {
     row.LastDay = season.LastDay;
     row.Depletion = ToInteger16(season.End.Depletion, "the depletion");
@@ -71,75 +42,99 @@ void StopRow(const Season& season, StatRecord& row) {
     row.NextIrrAmount = 0;
 }
 
-void LeaveResults(Ask& ask, FieldFile& file, Season& season) {
+void TakeResults(Season& season, FieldInHand& field) {
+    FieldFile& file = field.File;
     if (season.Ending == SeasonEnding::StoppedByUser) StopRow(season, season.Result.Row);
     if (file.IsHay) file.Hay.NextCutDay = season.Result.HayNextCutDay;
-    ApplyChanges(file, ChangesOf(file, season));
+    WriteField(file, ChangesOf(file, season));
     file.Soil = season.Soil;
-    StoreFieldFile(State.CurrentField, file);
-    State.Stat[State.CurrentField] = season.Result.Row;
-    SaveFieldRow(ask, State.CurrentField);
+    field.Row = season.Result.Row;
 }
 
-/// The process-wide values for the screens.
-void LeaveState(const FieldFile& file, const Season& season, JulianValue lastWeatherDay) {
-    State.Hay.NextCutDay = file.Hay.NextCutDay;
-    State.LastWeatherDay = lastWeatherDay;
-    State.MadExceededDay = season.Result.MadExceededDay;
-    State.DriedOutDay = season.Result.DriedOutDay;
-    State.SeasonEndDay = season.Result.SeasonEndDay;
-    if (season.Ending == SeasonEnding::StoppedByUser) State.WeatherNeedFrom = -1;
+/// Whether the weather reaches planting; if not, the user is told.
+bool WeatherReachesPlanting(Ask& ask, JulianValue plantDay) {
+    const JulianValue dayAfterPlanting = plantDay + 1;
+    if (State.WeatherLastJulian + 2 >= dayAfterPlanting) return true;
+    ask.Tell("No new predictions-weather data needs updating:  Planting date = " + JulianToLongText(dayAfterPlanting) +
+                 ".  Latest weather = " + JulianToLongText(State.WeatherLastJulian),
+             "Veraqua Update Warning");
+    return false;
 }
 
 }  // namespace
 
-RunOutcome UpdateField(Ask& ask) {
-    const JulianValue dayAfterPlanting = State.Header().PlantDay + 1;
-    if (State.WeatherLastJulian + 2 < dayAfterPlanting) {
-        ask.Tell(
-            "No new predictions-weather data needs updating:  Planting date = " + JulianToLongText(dayAfterPlanting) +
-                ".  Latest weather = " + JulianToLongText(State.WeatherLastJulian),
-            "Veraqua Update Warning");
-        return RunOutcome::NothingToUpdate;
-    }
-    const JulianValue resetDay = State.Updates[State.CurrentField];
-    const JulianValue firstWanted = resetDay > 0 ? resetDay + 1 : dayAfterPlanting;
-
-    files::ChangeSet changes;
-    RowGuard guard(State.CurrentField);
-    MakeWeatherFiles(YearOf(firstWanted));
-    std::optional<FieldFile> file = ReadField(ask);
-    if (!file) return RunOutcome::FieldFileMissing;
-
-    const SeasonStart start{firstWanted - 1, resetDay > 0, State.TodayJulian, State.Stat[State.CurrentField]};
-    const JulianValue startDay = AsOf(*file, start.Day).Day;
-    const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
-    Season season = RunFile(*file, start, weather, ask);
-    if (season.Ending == SeasonEnding::WeatherDamaged) return RunOutcome::WeatherDamaged;
-    const bool stopped = season.Ending == SeasonEnding::StoppedByUser;
-    if (stopped && !file->IsHay) ask.Tell("Writing updated Field History", "Veraqua Info");
-
-    LeaveResults(ask, *file, season);
-    changes.Commit();
-    guard.Keep();
-    LeaveState(*file, season, weather.LastReal());
-    return stopped ? RunOutcome::StoppedByUser : RunOutcome::Done;
+std::optional<FieldInHand> TakeInHand(Ask& ask) {
+    const int row = State.CurrentField;
+    std::optional<FieldFile> file = OpenField(ask, row);
+    if (!file) return std::nullopt;
+    return FieldInHand{*std::move(file), State.Stat[row], State.Updates[row]};
 }
 
-void CreateField(Ask& ask, const SoilProfile& soil) {
-    FieldFile file;
-    file.IsHay = State.IsHay;
-    file.Field = State.Field;
-    file.Hay = State.Hay;
-    file.Soil = soil;
+FieldRun RunField(Ask& ask, FieldInHand& field) {
+    FieldFile& file = field.File;
+    if (!WeatherReachesPlanting(ask, file.Header().PlantDay)) return {RunOutcome::NothingToUpdate, {}, 0};
+    const bool wasReset = field.DepletionDay > 0;
+    const JulianValue firstWanted = (wasReset ? field.DepletionDay : file.Header().PlantDay) + 1;
+
+    files::ChangeSet weatherFiles;
+    MakeWeatherFiles(YearOf(firstWanted));
+    const SeasonStart start{firstWanted - 1, wasReset, State.TodayJulian, field.Row};
+    const JulianValue startDay = AsOf(file, start.Day).Day;
+    const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
+    Season season = InFile(FieldFileName(State.CurrentField), [&] { return RunSeason(file, start, weather, ask); });
+    if (season.Ending == SeasonEnding::WeatherDamaged) return {RunOutcome::WeatherDamaged, {}, 0};
+    const bool stopped = season.Ending == SeasonEnding::StoppedByUser;
+    if (stopped && !file.IsHay) ask.Tell("Writing updated Field History", "Veraqua Info");
+    TakeResults(season, field);
+    weatherFiles.Commit();
+    return {stopped ? RunOutcome::StoppedByUser : RunOutcome::Done, season.Result, weather.LastReal()};
+}
+
+void StoreField(Ask& ask, const FieldInHand& field) {
+    const int row = State.CurrentField;
+    files::ChangeSet fileAndRow;
+    StoreFieldFile(row, field.File);
+    WriteFieldRow(ask, row, field.Row, field.DepletionDay);
+    fileAndRow.Commit();
+}
+
+void LeaveInState(const FieldInHand& field, const FieldRun& run) {
+    State.Stat[State.CurrentField] = field.Row;
+    State.Updates[State.CurrentField] = field.DepletionDay;
+    TakeInWork(field.File);
+    if (!run.HasRun()) return;
+    State.LastWeatherDay = run.LastWeatherDay;
+    State.MadExceededDay = run.Result.MadExceededDay;
+    State.DriedOutDay = run.Result.DriedOutDay;
+    State.SeasonEndDay = run.Result.SeasonEndDay;
+    if (run.Outcome == RunOutcome::StoppedByUser) State.WeatherNeedFrom = -1;  // there is no range to be brought in
+}
+
+FieldRun UpdateField(Ask& ask) {
+    if (!WeatherReachesPlanting(ask, State.Header().PlantDay)) return {RunOutcome::NothingToUpdate, {}, 0};
+    files::ChangeSet changes;
+    std::optional<FieldInHand> field = TakeInHand(ask);
+    if (!field) return {RunOutcome::FieldFileMissing, {}, 0};
+    FieldRun run = RunField(ask, *field);
+    if (!run.HasRun()) return run;
+    StoreField(ask, *field);
+    changes.Commit();
+    LeaveInState(*field, run);
+    return run;
+}
+
+FieldInHand NewField(const FieldFile& headerAndSoil) {
+    FieldInHand field{headerAndSoil, {}, 0};
+    FieldFile& file = field.File;
     const HeaderCommon& header = file.Header();
     const float rootDepth = file.IsHay ? file.Hay.RootMax : file.Field.RootStart;
-    const float water = SoilWaterBetween(0, rootDepth, ContentGrid(header, soil.Bounds), soil.Content);
-    const float capacity = SoilWaterBetween(0, rootDepth, CapacityGrid(header, soil.Bounds), soil.Capacity);
+    const float water = SoilWaterBetween(0, rootDepth, ContentGrid(header, file.Soil.Bounds), file.Soil.Content);
+    const float capacity = SoilWaterBetween(0, rootDepth, CapacityGrid(header, file.Soil.Bounds), file.Soil.Capacity);
     constexpr std::int16_t daysSinceWetAtStart = 4;
     file.Days = {{water, 0, rootDepth, 0, daysSinceWetAtStart}};
+    file.Lists = {};
 
-    StatRecord row;
+    StatRecord& row = field.Row;
     row.FieldId = header.FieldId;
     row.CropName = header.CropName;
     row.LastDay = header.PlantDay;
@@ -151,16 +146,18 @@ void CreateField(Ask& ask, const SoilProfile& soil) {
         row.NextIrrAmount = ToInteger16(static_cast<double>(row.Depletion) * capacity / 100 / header.IrrEff,
                                         "the irrigation needed, mm (by the irrigation efficiency)");
     }
+    return field;
+}
 
-    files::ChangeSet changes;
-    RowGuard guard(State.CurrentField);
-    State.Stat[State.CurrentField] = row;
-    State.Updates[State.CurrentField] = 0;
-    StoreFieldFile(State.CurrentField, file);
-    SaveFieldRow(ask, State.CurrentField);
-    changes.Commit();
-    guard.Keep();
-    State.VariableSoil = file.VariableSoil();
+void CreateField(Ask& ask, const SoilProfile& soil) {
+    FieldFile file;
+    file.IsHay = State.IsHay;
+    file.Field = State.Field;
+    file.Hay = State.Hay;
+    file.Soil = soil;
+    const FieldInHand field = NewField(file);
+    StoreField(ask, field);
+    LeaveInState(field, {});
     State.FieldCount = static_cast<std::int16_t>(RowsInUse().size());
 }
 

@@ -49,8 +49,6 @@ FieldDay StateOf(const FieldFile& file, std::size_t row) {
     return day;
 }
 
-JulianValue StateDay(const StatRecord& row) { return std::min(row.LastDay + 1, State.TodayJulian); }
-
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file) {
     const auto irrigation = Shown(file.Lists.Irrigation);
     const auto rain = Shown(file.Lists.Rain);

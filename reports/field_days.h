@@ -38,10 +38,6 @@ FieldDay StateOf(const FieldFile& file, std::size_t row);
 /// be computed with, as with a root zone that holds no water.
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file);
 
-/// The day whose row shows the present state of the field with this row of the directory: the day after the last one
-/// with weather, but no later than today.
-JulianValue StateDay(const StatRecord& row);
-
 /// Quantities of a day in the units of the user.
 struct DayUnits {
     bool English = false;

@@ -7,6 +7,7 @@
 
 #include "core/base/numbers.h"
 #include "core/directory.h"
+#include "core/field_file.h"
 #include "core/state.h"
 #include "engine/soil_water.h"
 #include "reports/field_table.h"
@@ -14,7 +15,6 @@
 #include "reports/report_file.h"
 #include "reports/report_text.h"
 #include "reports/soil_lines.h"
-#include "reports/stored_field.h"
 
 namespace veraqua {
 
@@ -127,10 +127,9 @@ std::string FieldReportText(const FieldReport& report, JulianValue today) {
 }
 
 std::optional<FieldReport> StoredFieldReport(Ask& ask, int row) {
-    const std::optional<FieldFile> file = StoredField(ask, row);
+    const std::optional<FieldFile> file = OpenField(ask, row);
     if (!file) return std::nullopt;
-    return ComputedFrom(FieldFileName(row),
-                        [&] { return GatherFieldReport(*file, State.Stat[row], State.EnglishUnits); });
+    return InFile(FieldFileName(row), [&] { return GatherFieldReport(*file, State.Stat[row], State.EnglishUnits); });
 }
 
 std::optional<std::string> FieldReportText(Ask& ask, int row) {

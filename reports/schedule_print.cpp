@@ -58,7 +58,7 @@ std::string NextIrrigation(const StatRecord& row) {
 
 ScheduleEntry EntryOf(int row, const FieldFile& file) {
     const StatRecord& stat = State.Stat[row];
-    const FieldDay day = StateOf(file, AsOf(file, StateDay(stat)).Row);
+    const FieldDay day = StateOf(file, AsOf(file, StateDay(stat, State.TodayJulian)).Row);
     ScheduleEntry entry;
     entry.Row = row;
     entry.Depletion = ToInteger16(day.Depletion, "the depletion");

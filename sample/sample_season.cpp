@@ -12,7 +12,7 @@
 #include "core/base/units.h"
 #include "core/crop_table.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/files/files.h"
 #include "core/state.h"
 #include "engine/season_run.h"
@@ -126,7 +126,7 @@ bool BringUpToDate(Ask& ask, const SampleField& field, JulianValue today) {
     SelectField(ask, field.Row);
     TakeWeather(ask, State.Header().PlantDay, today);
     const JulianValue realToday = std::exchange(State.TodayJulian, today);
-    const RunOutcome outcome = UpdateField(ask);
+    const RunOutcome outcome = UpdateField(ask).Outcome;
     State.TodayJulian = realToday;
     return outcome == RunOutcome::Done;
 }

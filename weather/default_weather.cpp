@@ -88,8 +88,7 @@ std::string_view RegionOfStation(std::string_view stationCode) {
 }
 
 bool LoadWeatherCoefficients(Ask& ask, std::string_view region) {
-    const auto bytes = files::Read(DefaultWeatherFile);
-    if (!bytes) throw RunTimeFailure(fmt::format("{}: the file is missing.", DefaultWeatherFile));
+    const auto bytes = files::ReadExisting(DefaultWeatherFile);
     TextItems items(*bytes, DefaultWeatherFile);
     const int names = items.Integer16();
     const int notes = items.Integer16();

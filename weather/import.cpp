@@ -113,8 +113,8 @@ class Importer {
         try {
             return DayOf(*line_);
         } catch (const RunTimeFailure& failure) {
-            throw RunTimeFailure(fmt::format("{}: the line of day {}: {}", NetworkTextName(place_.Year),
-                                             line_->DayOfYear, failure.what()));
+            FailIn(NetworkTextName(place_.Year),
+                   fmt::format("the line of day {}: {}", line_->DayOfYear, failure.what()));
         }
     }
 

@@ -54,8 +54,7 @@ JulianValue LastWeatherJulian(std::string_view stationCode, int year) {
     if (file.Days() == 0) return 0;
     const int dayOfYear = file.Day(file.Days()).DayOfYear;
     if (dayOfYear < 0 || dayOfYear > 366)
-        throw RunTimeFailure(
-            fmt::format("{}: record {} has the impossible day of year {}.", file.Name(), file.Days(), dayOfYear));
+        FailIn(file.Name(), fmt::format("record {} has the impossible day of year {}.", file.Days(), dayOfYear));
     return JulianFromDayOfYear(dayOfYear, year);
 }
 

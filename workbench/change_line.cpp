@@ -37,4 +37,9 @@ std::string ChangeLine(const StatRecord& before, const StatRecord& after) {
     return line;
 }
 
+std::string ChangeLine(const FieldChange& change) {
+    if (change.HasRun()) return ChangeLine(change.Before, change.After);
+    return "The change is recorded, but the field was not run: its predictions are those from before.";
+}
+
 }  // namespace veraqua

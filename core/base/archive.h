@@ -44,13 +44,12 @@ class Reader {
     /// asked for.
     void Expect(std::size_t count) const {
         if (count > bytes_.size() - position_)
-            throw RunTimeFailure(
-                fmt::format("{}: {} bytes, but its counts ask for {}.", fileName_, bytes_.size(), position_ + count));
+            FailIn(fileName_, fmt::format("{} bytes, but its counts ask for {}.", bytes_.size(), position_ + count));
     }
 
     /// Fails because of the number last taken.
     [[noreturn]] void Refuse(std::string_view what) const {
-        throw RunTimeFailure(fmt::format("{}: {} at byte {}.", fileName_, what, offset_ + lastNumber_));
+        FailIn(fileName_, fmt::format("{} at byte {}.", what, offset_ + lastNumber_));
     }
 
   private:

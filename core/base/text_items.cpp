@@ -18,9 +18,7 @@ constexpr std::string_view BlanksAndLineEnds = " \t\r\n";
 
 }  // namespace
 
-void TextItems::Refuse(std::string_view what) const {
-    throw RunTimeFailure(fmt::format("{}: line {}: {}.", fileName_, line_, what));
-}
+void TextItems::Refuse(std::string_view what) const { FailIn(fileName_, fmt::format("line {}: {}.", line_, what)); }
 
 void TextItems::Advance(std::size_t count) {
     line_ += static_cast<int>(std::count(rest_.begin(), rest_.begin() + static_cast<std::ptrdiff_t>(count), '\n'));

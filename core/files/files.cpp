@@ -35,7 +35,8 @@ struct OpenDirectory {
     DirectoryLock Lock;
     Changes Recorded;                                   ///< by a set of this program that could not be carried out yet
     std::vector<Changes> Sets;                          ///< the open change sets, the outermost first
-    std::map<std::string, SeenFile, std::less<>> Seen;  ///< since the outermost set began
+    std::map<std::string, SeenFile, std::less<>> Seen;  ///< since the outermost set began, or the reading once
+    bool ReadsOnce = false;
 };
 
 std::optional<OpenDirectory>& Current() {
@@ -88,7 +89,7 @@ SeenFile ReadFromDisk(OpenDirectory& opened, std::string_view name) {
 }
 
 SeenFile ReadOnce(OpenDirectory& opened, std::string_view name) {
-    if (opened.Sets.empty()) return ReadFromDisk(opened, name);
+    if (opened.Sets.empty() && !opened.ReadsOnce) return ReadFromDisk(opened, name);
     const std::string key = LowerCase(name);
     const auto seen = opened.Seen.find(key);
     if (seen != opened.Seen.end()) return seen->second;
@@ -115,7 +116,7 @@ void Apply(const Changes& changes, NamesByKey& names) {
 }
 
 void ForgetWhatWasSeen(OpenDirectory& opened) {
-    opened.Seen.clear();
+    if (!opened.ReadsOnce) opened.Seen.clear();
     opened.Directory.HoldListing(opened.Lock.IsHeld() && !opened.Sets.empty());
 }
 
@@ -146,6 +147,7 @@ void FinishRecorded(OpenDirectory& opened) {
         throw RunTimeFailure(fmt::format("{} An earlier change is recorded and waits for this.", failure.what()));
     }
     opened.Recorded.clear();
+    opened.Seen.clear();
     ForgetWhatWasSeen(opened);
 }
 
@@ -160,9 +162,12 @@ void CommitOutermost(OpenDirectory& opened) {
         CommitChanges(opened.Directory, real);
     } catch (const RecordedFailure& failure) {
         opened.Recorded = std::move(real);
+        opened.Seen.clear();
         throw RunTimeFailure(
             fmt::format("{} The change is recorded and will be completed at the next start.", failure.what()));
     }
+    for (const auto& [key, change] : real)
+        opened.Seen[key] = SeenFile{change.Contents ? change.Name : "", change.Contents};
 }
 
 void LockForWriting(OpenDirectory& opened) {
@@ -238,6 +243,12 @@ std::shared_ptr<const Bytes> Read(std::string_view name) {
     return ReadOnce(opened, name).Contents;
 }
 
+std::shared_ptr<const Bytes> ReadExisting(std::string_view name) {
+    auto bytes = Read(name);
+    if (!bytes) FailIn(name, "the file is missing.");
+    return bytes;
+}
+
 std::vector<std::string> Names() {
     OpenDirectory& opened = Opened();
     const std::string& path = opened.Directory.Path();
@@ -258,7 +269,7 @@ std::vector<std::string> Names() {
 void Write(std::string_view name, Bytes contents) {
     ExpectDataName(name);
     if (contents.size() > LargestDataFile)
-        throw RunTimeFailure(fmt::format("{}: {} bytes are too many for a data file.", name, contents.size()));
+        FailIn(name, fmt::format("{} bytes are too many for a data file.", contents.size()));
     ChangeSet set;
     Opened().Sets.back()[LowerCase(name)] = {std::string(name), std::make_shared<const Bytes>(std::move(contents))};
     set.Commit();
@@ -280,6 +291,16 @@ void Rename(std::string_view from, std::string_view to) {
     changes[LowerCase(from)] = {std::string(from), nullptr};
     changes[LowerCase(to)] = {std::string(to), contents};
     set.Commit();
+}
+
+ReadingOnce::ReadingOnce() {
+    assert(!Opened().ReadsOnce && Opened().Sets.empty() && Opened().Lock.IsHeld());
+    Opened().ReadsOnce = true;
+}
+
+ReadingOnce::~ReadingOnce() {
+    Opened().ReadsOnce = false;
+    Opened().Seen.clear();
 }
 
 ChangeSet::ChangeSet() {

@@ -40,6 +40,9 @@ bool Exists(std::string_view name);
 /// change set a file is read from the disk once.
 std::shared_ptr<const Bytes> Read(std::string_view name);
 
+/// The same; without such a file a RunTimeFailure.
+std::shared_ptr<const Bytes> ReadExisting(std::string_view name);
+
 /// Names of all files in the data directory, in the spelling of the disk, sorted; the lock and the journal are left
 /// out.
 std::vector<std::string> Names();
@@ -71,6 +74,16 @@ class ChangeSet {
   private:
     std::size_t depth_;  ///< 1 for the outermost set
     bool committed_ = false;
+};
+
+/// While it lives, a file is read from the disk once, across change sets too: for a deed in a directory whose lock this
+/// program holds, so that nobody else changes a file meanwhile.
+class ReadingOnce {
+  public:
+    ReadingOnce();
+    ~ReadingOnce();
+    ReadingOnce(const ReadingOnce&) = delete;
+    ReadingOnce& operator=(const ReadingOnce&) = delete;
 };
 
 /// A text that leaves the program, such as a report: written whole beside its place and renamed into it, so that an old

@@ -82,8 +82,7 @@ Bytes JournalBytes(const Changes& changes) {
     std::size_t size = 0;
     for (const auto& [key, change] : changes)
         size += StoredSize<ChangeHead>() + change.Name.size() + (change.Contents ? change.Contents->size() : 0);
-    if (size > LargestJournal)
-        throw RunTimeFailure(fmt::format("{}: changes of {} bytes at once are too many.", JournalName, size));
+    if (size > LargestJournal) FailIn(JournalName, fmt::format("changes of {} bytes at once are too many.", size));
 
     JournalHead head;
     head.Magic = JournalMagic;
@@ -127,8 +126,7 @@ std::optional<Changes> ParseJournal(std::string_view bytes) {
     Layout(reader, head);
     if (head.Checksum != ChecksumOf(bytes.substr(CheckedFrom))) return std::nullopt;
     if (head.Version != KnownVersion)
-        throw RunTimeFailure(fmt::format("{}: version {} was left by a newer Veraqua, which must finish it.",
-                                         JournalName, head.Version));
+        FailIn(JournalName, fmt::format("version {} was left by a newer Veraqua, which must finish it.", head.Version));
     Changes changes;
     for (std::int32_t i = 0; i < head.ChangeCount; ++i) {
         Change change = TakeChange(reader, bytes);

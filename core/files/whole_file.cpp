@@ -47,8 +47,7 @@ std::optional<OpenedFile> OpenToWrite(int directory, const std::string& name, in
 
 Bytes ReadWhole(const OpenedFile& file, std::size_t limit) {
     const auto size = static_cast<std::size_t>(file.Status.st_size);
-    if (size > limit)
-        throw RunTimeFailure(fmt::format("{}: {} bytes are too many, at most {} can be read.", file.Name, size, limit));
+    if (size > limit) FailIn(file.Name, fmt::format("{} bytes are too many, at most {} can be read.", size, limit));
     return ReadFirst(file, size);
 }
 

@@ -7,12 +7,12 @@
 
 #include "core/base/numbers.h"
 #include "core/directory.h"
+#include "core/field_file.h"
 #include "core/state.h"
 #include "reports/field_days.h"
 #include "reports/forms/field_summary.h"
 #include "reports/report_text.h"
 #include "reports/soil_lines.h"
-#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -100,11 +100,11 @@ void ShowSoil(frmFieldDetails& form, const FieldFile& file) {
 }
 
 void Fill(frmFieldDetails& form) {
-    const std::optional<FieldFile> file = StoredField(TheScreen(), State.CurrentField);
+    const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return;
     const StatRecord& row = State.Stat[State.CurrentField];
-    ComputedFrom(FieldFileName(State.CurrentField), [&] {
-        const FieldDay day = StateOf(*file, AsOf(*file, StateDay(row)).Row);
+    InFile(FieldFileName(State.CurrentField), [&] {
+        const FieldDay day = StateOf(*file, AsOf(*file, StateDay(row, State.TodayJulian)).Row);
         ShowDay(form, day);
         ShowLists(form, file->Lists, day.Day);
         ShowSoil(form, *file);

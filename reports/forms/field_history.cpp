@@ -3,10 +3,10 @@
 #include <fmt/format.h>
 
 #include "core/directory.h"
+#include "core/field_file.h"
 #include "core/state.h"
 #include "reports/history_table.h"
 #include "reports/printed_lines.h"
-#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -25,10 +25,9 @@ void FillHistory(FieldHistory& form) {
         TheScreen().Tell("Please select or initialize a field before choosing this option", "Information Message");
         return;
     }
-    const std::optional<FieldFile> file = StoredField(TheScreen(), State.CurrentField);
+    const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return;
-    form.Lines =
-        ComputedFrom(FieldFileName(State.CurrentField), [&] { return HistoryLines(*file, State.EnglishUnits); });
+    form.Lines = InFile(FieldFileName(State.CurrentField), [&] { return HistoryLines(*file, State.EnglishUnits); });
     form.txtData.Text = fmt::format("{}", fmt::join(form.Lines, "\n"));
     form.txtID.Text = IdInWork();
     form.txtCropName.Text = CropInWork();

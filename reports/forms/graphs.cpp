@@ -25,7 +25,7 @@ JulianValue SortDateOf(const StatRecord& row) {
 
 GraphRow GraphRowOf(int number, const FieldFile& file) {
     StatRecord& row = State.Stat[number];
-    const FieldDay day = StateOf(file, AsOf(file, StateDay(row)).Row);
+    const FieldDay day = StateOf(file, AsOf(file, StateDay(row, State.TodayJulian)).Row);
     row.Depletion = ToInteger16(day.Depletion, "Depletion");
     return {static_cast<std::int16_t>(number),
             row.FieldId.Text(),

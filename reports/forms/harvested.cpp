@@ -2,11 +2,11 @@
 
 #include <fmt/format.h>
 
+#include "core/field_file.h"
 #include "core/state.h"
 #include "reports/forms/report_options.h"
 #include "reports/forms/report_roads.h"
 #include "reports/soil_preview.h"
-#include "reports/stored_field.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 
@@ -33,7 +33,7 @@ void ComboDField_Click(frmSelectHarvested& form) {
     form.txtData.Text.clear();
     form.StatusBar1.Panels[0] = fmt::format("Field={}  ID={}", position + 1, backup.FieldId);
     FieldFile field = LoadBackup(backup.FileName);
-    form.txtData.Text = ComputedFrom(backup.FileName, [&] { return SoilPreview(field, State.EnglishUnits); });
+    form.txtData.Text = InFile(backup.FileName, [&] { return SoilPreview(field, State.EnglishUnits); });
     form.Field = std::move(field);
 }
 
@@ -45,8 +45,7 @@ void cmdOK_Click(frmSelectHarvested& form) {
     const ReportDestination destination = ChooseDestination(SavedReport::HarvestedField);
     if (destination == ReportDestination::None) return;
     const std::string& name = form.Backups[static_cast<std::size_t>(form.ComboDField.Index)].FileName;
-    const FieldReport report =
-        ComputedFrom(name, [&] { return GatherHarvestedReport(*form.Field, State.EnglishUnits); });
+    const FieldReport report = InFile(name, [&] { return GatherHarvestedReport(*form.Field, State.EnglishUnits); });
     if (destination == ReportDestination::Printer)
         PrintFieldReport(report);
     else

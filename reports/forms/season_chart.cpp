@@ -1,8 +1,8 @@
 #include "reports/forms/season_chart.h"
 
+#include "core/field_file.h"
 #include "core/state.h"
 #include "reports/season_chart.h"
-#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -15,7 +15,7 @@ void Load(frmSeasonChart& form) { form.Caption = "Season Chart, Veraqua " + Stat
 
 void FillForm(frmSeasonChart& form) {
     if (State.CurrentField == 0) return;
-    const std::optional<FieldFile> file = StoredField(TheScreen(), State.CurrentField);
+    const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return Unload(FormName::frmSeasonChart);
     form.Chart1.Show(SeasonChart(*file, State.Stat[State.CurrentField], State.TodayJulian, State.EnglishUnits));
     ShowFieldIn(form.StatusBar1);

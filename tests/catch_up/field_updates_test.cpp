@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/field_in_work.h"
 #include "tests/catch_up/catch_up_fixture.h"
 #include "tests/support/failing_disks.h"
 #include "tests/support/failure.h"

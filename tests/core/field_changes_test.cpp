@@ -10,7 +10,7 @@ namespace veraqua {
 namespace {
 
 FieldFile After(FieldFile file, const FieldChanges& changes) {
-    ApplyChanges(file, changes);
+    WriteField(file, changes);
     return file;
 }
 

@@ -1,5 +1,3 @@
-#include "core/field_file.h"
-
 #include <array>
 #include <string>
 #include <tuple>
@@ -8,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "tests/support/builders.h"
 #include "tests/support/bytes.h"
@@ -153,7 +152,7 @@ TEST_F(FieldFilesOnDisk, AMissingFileIsToldAndADamagedOneIsAFailureAndStays) {
     const std::string damaged = OrdinaryBytes.substr(0, 200);
     Directory.Put("FIELD2.DAT", damaged);
     EXPECT_FAILURE(SelectField(User, 2), StartsWith("field2.dat: "));
-    EXPECT_FAILURE(WriteField({}, {}), StartsWith("field2.dat: "));
+    EXPECT_FAILURE(LoadFieldFile(2), StartsWith("field2.dat: "));
     EXPECT_EQ(Directory.Raw("FIELD2.DAT"), damaged);
 }
 

@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "core/field_in_work.h"
 #include "engine/season.h"
 #include "engine/season_run.h"
 #include "tests/support/builders.h"
@@ -51,7 +52,7 @@ struct UpdateFieldTest : SeasonTest {
         State.WeatherLastJulian = lastReal;
         State.WeatherCoeff = DefaultWeather;
         SelectField(User, 1);
-        return UpdateField(User);
+        return UpdateField(User).Outcome;
     }
 
     std::map<std::string, std::string> Files() const {

@@ -6,6 +6,7 @@
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/forms/field_choice.h"
+#include "workbench/refused.h"
 
 namespace veraqua {
 
@@ -31,10 +32,7 @@ void SetEntryVisible(frmField& form, bool visible) {
 
 void mnuNew_Click(frmField& form) {
     const int row = LowestFreeRow();
-    if (row == 0) {
-        TheScreen().Tell("Veraqua keeps at most 100 fields.");
-        return;
-    }
+    if (row == 0) return Tell(TheScreen(), DirectoryIsFull());
     SelectNothing(form);
     ListCrops(form.comboCrops);
     State.CurrentField = static_cast<std::int16_t>(row);

@@ -1,19 +1,17 @@
 #include "workbench/forms/cuttings.h"
 
-#include <cmath>
-
 #include <fmt/format.h>
 
 #include "core/base/numbers.h"
 #include "core/directory.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "reports/prediction_text.h"
-#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/event_list.h"
-#include "workbench/event_run.h"
+#include "workbench/change_line.h"
+#include "workbench/cutting.h"
 #include "workbench/forms/field_menu.h"
 
 namespace veraqua {
@@ -31,76 +29,35 @@ void ShowAll(frmCuts& form) {
     form.txtIrrAmnt.Text = irrigation.Amount;
 }
 
-/// Saves the list with the run that follows, and shows what stands in the file then.
-void Save(frmCuts& form, const std::vector<EventRecord>& cuts) {
-    State.CutsChanged = State.CutsChanged || cuts.empty();
-    FieldLists lists;
-    lists.Cuttings = cuts;
-    form.lblChange.Caption = RecordAndRun(std::move(lists));
-    form.CutEvents = LoadFieldFile(State.CurrentField).Lists.Cuttings;
+/// Shows what a change has left in the file and done to the prediction.
+void ShowChange(frmCuts& form, const FieldChange& change) {
+    form.lblChange.Caption = ChangeLine(change);
+    form.CutEvents = change.File.Lists.Cuttings;
     ShowAll(form);
 }
 
-/// Applies a cutting, nothing to remove it, and saves what has changed.
-void Apply(frmCuts& form, JulianValue day, std::optional<double> number) {
-    std::vector<EventRecord> cuts = form.CutEvents;
-    switch (ComputedFrom(FieldFileName(State.CurrentField), [&] { return ManageEvents(cuts, day, number); })) {
-        case ListChange::Changed:
-            Save(form, cuts);
-            form.Recorded = true;
-            break;
-        case ListChange::NoMatch: TheScreen().Tell("No matching date found", "Try again..."); break;
-        case ListChange::Unchanged: break;
+/// Shows what was done, if anything was, and puts the focus where the user goes on.
+void Follow(frmCuts& form, const OrRefused<FieldChange>& outcome) {
+    if (!outcome.IsDone()) Tell(TheScreen(), outcome.Why());
+    if (outcome.IsDone() && outcome->IsRecorded) {
+        ShowChange(form, *outcome);
+        form.Recorded = true;
     }
-}
-
-/// Whether the hay in work can have been cut on `day`, 0 if no date was read; if not, the user is told.
-bool DateStands(JulianValue day) {
-    if (day < State.Hay.PlantDay) {
-        TheScreen().Tell(fmt::format("Use a Date after {}.  Only data after growth onset can be used.",
-                                     JulianToShortText(State.Hay.PlantDay)));
-        return false;
-    }
-    if (day > State.TodayJulian) {
-        TheScreen().Tell(fmt::format("Use a Date before {}.  Can't count on future weather or work...",
-                                     JulianToShortText(State.TodayJulian + 1)));
-        return false;
-    }
-    return true;
-}
-
-/// What is wrong with a cut number; empty if nothing is.
-std::string_view FaultOf(std::optional<double> number) {
-    if (!number) return "Please enter a number value for your cut number";
-    if (std::floor(*number) != *number) return "Please enter a whole number for your cut number";
-    if (*number < 0) return "Please enter a positive whole number for your cut number";
-    return {};
+    Focus(!outcome.IsDone() && outcome.Why().Where == Given::CutNumber ? form.txtCutNumber : form.txtCutAdd);
 }
 
 void cmdOKCut_Click(frmCuts& form) {
     const JulianValue day = TypedDay(form.txtCutAdd);
-    if (!DateStands(day)) return Focus(form.txtCutAdd);
-    const std::optional<double> number = Numeric(form.txtCutNumber.Text);
-    const std::string_view fault = FaultOf(number);
-    if (!fault.empty()) {
-        TheScreen().Tell(fault, "Input Error");
-        return Focus(form.txtCutNumber);
-    }
-    Apply(form, day, *number == 0 ? std::nullopt : number);
-    Focus(form.txtCutAdd);
+    Follow(form, RecordCutting(TheScreen(), day, Numeric(form.txtCutNumber.Text)));
 }
 
 void cmdDelete_Click(frmCuts& form) {
     const ListItem* selected = form.ListCuts.Selected();
     const JulianValue day = selected != nullptr ? selected->Data : TypedDay(form.txtCutAdd);
-    if (!DateStands(day)) return;
-    if (!TheScreen().YesNo(fmt::format("Are you sure you wish to delete the CUTTING on: {}?", JulianToShortText(day)),
-                           "DELETE Confirmation", Icon::Question, false))
-        return;
-    State.CutsChanged = true;
-    Apply(form, day, std::nullopt);
-    State.CutsChanged = false;
-    Focus(form.txtCutAdd);
+    const OrRefused<FieldChange> outcome = RemoveCutting(TheScreen(), day);
+    const bool wasLookedFor = outcome.IsDone() || outcome.Why().Where == Given::Entry;
+    if (wasLookedFor) return Follow(form, outcome);
+    Tell(TheScreen(), outcome.Why());
 }
 
 void txtCutAdd_Enter(frmCuts& form) { Focus(form.txtCutNumber); }
@@ -130,7 +87,8 @@ void Load(frmCuts& form) {
 void UnloadForm(frmCuts& form) {
     Show(FormName::frmField);
     if (!form.Cancelled || !form.Recorded) return;
-    Save(form, form.CutCopy);
+    const auto restored = RestoreCuttings(TheScreen(), form.CutCopy);
+    if (restored.IsDone()) ShowChange(form, *restored);
     ShowNext(The<frmField>());
 }
 

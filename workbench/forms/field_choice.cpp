@@ -3,7 +3,7 @@
 #include "catch_up/weather_check.h"
 #include "catch_up/weather_commands.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "engine/season_run.h"
 #include "reports/prediction_text.h"

@@ -8,6 +8,7 @@
 #include "reports/forms/report_roads.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "workbench/cutting.h"
 #include "workbench/forms/adjustments.h"
 #include "workbench/forms/crop_choice.h"
 #include "workbench/forms/field_choice.h"
@@ -63,7 +64,7 @@ void mnuCuts_Click(frmField&) {
     if (State.IsHay)
         ChangeTo(FormName::frmCuts);
     else
-        TheScreen().Tell("This option only applies to Alfalfa fields", "Pick Another Option");
+        Tell(TheScreen(), OnlyHayIsCut());
 }
 
 void mnuFieldSummary_Click(frmField&) {

@@ -119,7 +119,6 @@ struct frmField : Form {
     bool RestorePending = false;        ///< likewise the backup to restore
     std::vector<std::string> FieldIds;  ///< as listed in `ComboField`
     std::vector<std::string> Backups;   ///< file names, likewise while a harvested field is to be picked
-    std::string BackupName;             ///< of the field that the last harvest has ended; empty: it ended none
 };
 
 FormTable TableOf(frmField& form);

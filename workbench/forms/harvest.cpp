@@ -1,160 +1,16 @@
 #include "workbench/forms/harvest.h"
 
-#include <algorithm>
-
-#include <fmt/format.h>
-
-#include "catch_up/field_updates.h"
-#include "core/backup_name.h"
 #include "core/backups.h"
-#include "core/base/archive.h"
-#include "core/directory.h"
-#include "core/field_file.h"
-#include "core/files/files.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/forms/field_choice.h"
+#include "workbench/harvest.h"
 
 namespace veraqua {
 
-namespace {
-
-/// "NORTH 30  _300626_ 1.row" beside "NORTH 30  _300626_ 1.dat".
-std::string RowFileName(const std::string& backupName) { return backupName.substr(0, backupName.rfind('.')) + ".row"; }
-
-std::string RowFileBytes(int row) {
-    const HarvestedRow harvested{State.Stat[row], State.Updates[row]};
-    std::string bytes;
-    Writer writer(bytes);
-    Layout(writer, harvested);
-    return bytes;
-}
-
-/// Nothing if the backup has none.
-std::optional<HarvestedRow> ReadRowFile(const std::string& backupName) {
-    const std::string name = RowFileName(backupName);
-    const auto bytes = files::Read(name);
-    if (!bytes) return std::nullopt;
-    HarvestedRow harvested;
-    Reader reader(*bytes, name);
-    Layout(reader, harvested);
-    const StatRecord& row = harvested.Row;
-    for (const JulianValue day : {row.LastDay, row.NextIrrDay, row.NextCutDay, harvested.DepletionDay})
-        if (!IsPossibleDay(day) || row.LastDay == 0)
-            throw RunTimeFailure(fmt::format("{}: the days of the field can't be true.", name));
-    return harvested;
-}
-
-/// Rows 1 to n for the n fields that are left when `ended` goes; gaps close.
-void RenumberWithout(int ended) {
-    std::vector<int> left = RowsInUse();
-    left.erase(std::remove(left.begin(), left.end(), ended), left.end());
-    WriteDirectory(left);
-    int row = 0;
-    for (const int old : left)
-        if (++row != old) files::Rename(FieldFileName(old), FieldFileName(row));
-}
-
-/// What the directory says of a field that has not been run yet.
-HarvestedRow RowAtPlanting(const FieldFile& file) {
-    HarvestedRow start;
-    start.Row.LastDay = file.Header().PlantDay;
-    start.Row.MadNow = file.Header().MAD;
-    return start;
-}
-
-/// A name that the user typed could be that of any file, also of a field in use.
-bool IsBackup(const std::string& name) {
-    const std::vector<Backup> backups = FindBackups();
-    return std::any_of(backups.begin(), backups.end(), [&](const Backup& backup) { return backup.FileName == name; });
-}
-
-bool IsIdInUse(const FixedText<10>& id) {
-    const std::vector<int> rows = RowsInUse();
-    return std::any_of(rows.begin(), rows.end(),
-                       [&](int row) { return State.Stat[row].FieldId.UpperCase() == id.UpperCase(); });
-}
-
-/// Puts the backup back as the field of `row`, as one set of changes. Gives what else there is to be said.
-std::string_view PutBack(const std::string& backupName, const FieldFile& file, int row) {
-    const std::optional<HarvestedRow> kept = ReadRowFile(backupName);
-    const HarvestedRow harvested = kept ? *kept : RowAtPlanting(file);
-    files::ChangeSet changes;
-    files::Rename(backupName, FieldFileName(row));
-    files::Remove(RowFileName(backupName));
-    State.Stat[row] = harvested.Row;
-    State.Stat[row].FieldId = file.Header().FieldId;
-    State.Stat[row].CropName = file.Header().CropName;
-    State.Updates[row] = harvested.DepletionDay;
-    SaveFieldRow(TheScreen(), row);
-    const bool hasRun = kept || UpdateRows(TheScreen(), {row}).front() == UpdateStatus::Done;
-    changes.Commit();
-    State.FieldCount = static_cast<std::int16_t>(RowsInUse().size());
-    if (kept) return "";
-    return hasRun ? "\nIts depletion date was not kept. It was run from planting."
-                  : "\nIts depletion date was not kept. It has to be run from planting.";
-}
-
-/// Behind the last field; where there is no room, in the place of one whose file got lost. 0 where all rows are in use.
-int RowToRestore() {
-    const std::vector<int> rows = RowsInUse();
-    const int last = rows.empty() ? 0 : rows.back();
-    return last < MaxFields ? last + 1 : LowestFreeRow();
-}
-
-}  // namespace
-
-std::string HarvestField(int row) {
-    constexpr std::string_view notBackedUp = "Your field was NOT backed up.  ";
-    std::string backup = FreeBackupName(LoadFieldFile(row).Header().FieldId, TheScreen().Now());
-    std::string failing(notBackedUp);
-    try {
-        files::ChangeSet changes;
-        files::Rename(FieldFileName(row), backup);
-        files::Write(RowFileName(backup), RowFileBytes(row));
-        failing = "Field file renumbering error (for files past deleted one).  ";
-        RenumberWithout(row);
-        failing = notBackedUp;
-        changes.Commit();
-        TheScreen().Tell("Your field was deleted and backed up to " + backup, "Field Harvested/Deleted");
-    } catch (const RunTimeFailure& failure) {
-        // A change that is recorded and will be completed counts: it is what the files are read as.
-        const bool isRecorded = files::Exists(backup);
-        TheScreen().Tell((isRecorded ? "" : failing) + failure.what(), "File Error");
-        if (!isRecorded) return "";
-    }
-    StartDirectory();
-    return backup;
-}
-
-std::optional<int> RestoreField(const std::string& backupName) {
-    const auto refuse = [](const std::string& text, std::string_view title = ProgramTitle) {
-        TheScreen().Tell(text, title);
-        return std::nullopt;
-    };
-    if (!IsBackup(backupName)) return refuse(backupName + " is no harvested field in the data directory.");
-    const FieldFile file = LoadBackup(backupName);
-    const std::string id = file.Header().FieldId.Text();
-    const int row = RowToRestore();
-    if (row == 0) return refuse("Veraqua keeps at most 100 fields.");
-    if (IsIdInUse(file.Header().FieldId))
-        return refuse("A field in use has the Field ID Code " + id + ". Harvest it before you restore this one.",
-                      "Duplicate Field ID");
-    std::string_view remark;
-    try {
-        remark = PutBack(backupName, file, row);
-    } catch (const RunTimeFailure&) {
-        StartDirectory();
-        throw;
-    }
-    TheScreen().Tell(fmt::format("Field ID = {} was restored from {}{}", id, backupName, remark), "Field Restored");
-    return row;
-}
-
 void mnuDelete_Click(frmField& form) {
     ForgetPick(form);
-    form.BackupName.clear();
     if (!ExpectField("Please select a field to delete.")) {
         SelectNothing(form);
         form.cmd_Cancel.Visible = true;
@@ -162,12 +18,8 @@ void mnuDelete_Click(frmField& form) {
         ListFields(form);
         return;
     }
-    const std::string id = LoadFieldFile(State.CurrentField).Header().FieldId.Whole();
-    if (!TheScreen().YesNo("Please confirm you wish to harvest/delete Field ID = " + id, "Delete Confirmation",
-                           Icon::Question, true))
-        return;
-    form.BackupName = HarvestField(State.CurrentField);
-    if (form.BackupName.empty()) return;
+    const OrRefused<std::string> outcome = HarvestField(TheScreen(), State.CurrentField);
+    if (!outcome.IsDone()) return Tell(TheScreen(), outcome.Why());
     ShowNoField(form);
     if (State.FieldCount > 0) ListFields(form);
 }
@@ -191,7 +43,9 @@ void mnuRestore_Click(frmField& form) {
 }
 
 void RestorePicked(frmField& form, int number) {
-    if (!RestoreField(form.Backups[static_cast<std::size_t>(number - 1)])) return;
+    const std::string& backup = form.Backups[static_cast<std::size_t>(number - 1)];
+    const OrRefused<int> outcome = RestoreField(TheScreen(), backup);
+    if (!outcome.IsDone()) return Tell(TheScreen(), outcome.Why());
     SelectNothing(form);
     ListFields(form);
 }

@@ -293,7 +293,7 @@ void cmd_OK_Click(frmLoadField& form) {
 void StartField(const SoilProfile& soil, FormName soilForm) {
     files::ChangeSet asOne;
     CreateField(TheScreen(), soil);
-    const RunOutcome outcome = UpdateField(TheScreen());
+    const RunOutcome outcome = UpdateField(TheScreen()).Outcome;
     asOne.Commit();
     The<frmLoadField>().FirstRun = outcome;
     Unload(FormName::frmLoadField);

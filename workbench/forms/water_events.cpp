@@ -7,15 +7,15 @@
 #include "core/base/numbers.h"
 #include "core/base/units.h"
 #include "core/directory.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "reports/prediction_text.h"
-#include "reports/stored_field.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/event_list.h"
-#include "workbench/event_run.h"
+#include "workbench/change_line.h"
 #include "workbench/forms/field_menu.h"
+#include "workbench/water.h"
 
 namespace veraqua {
 
@@ -28,34 +28,18 @@ struct Side {
     ListBox& List;
     TextBox& Total;
     std::vector<EventRecord>& Events;
-    bool& Removed;  ///< in the state: entries have gone
     float& TotalMm;
-    std::string_view NoAmount;
-    std::string_view ConfirmDelete;
+    Water Kind;
 };
 
 Side RainOf(frmAddWater& form) {
-    return {form.txtRainDate,
-            form.txtRainfall,
-            form.ListRain,
-            form.txtRAIN,
-            form.RainEvents,
-            State.RainChanged,
-            State.RainTotal,
-            "Please enter a value for your rainfall amount",
-            "Are you sure you wish to delete rainfall data on: "};
+    return {form.txtRainDate, form.txtRainfall, form.ListRain, form.txtRAIN,
+            form.RainEvents,  State.RainTotal,  Water::Rain};
 }
 
 Side IrrigationOf(frmAddWater& form) {
-    return {form.txtIrrAdd,
-            form.txtIrrigation,
-            form.ListIrr,
-            form.txtIRR,
-            form.IrrEvents,
-            State.IrrigationChanged,
-            State.IrrigationTotal,
-            "Please enter a value for your irrigation amount",
-            "Are you sure you wish to delete irrigation on: "};
+    return {form.txtIrrAdd, form.txtIrrigation,    form.ListIrr,     form.txtIRR,
+            form.IrrEvents, State.IrrigationTotal, Water::Irrigation};
 }
 
 std::string AmountText(double mm) {
@@ -97,63 +81,37 @@ void ShowAll(frmAddWater& form) {
     ShowPrediction(form);
 }
 
-/// Saves the lists with the run that follows, and shows what stands in the file then.
-void Save(frmAddWater& form, FieldLists lists) {
-    State.RainChanged = State.RainChanged || lists.Rain.empty();
-    State.IrrigationChanged = State.IrrigationChanged || lists.Irrigation.empty();
-    form.lblChange.Caption = RecordAndRun(std::move(lists));
-    TakeLists(form, LoadFieldFile(State.CurrentField));
+/// Shows what a change has left in the file and done to the prediction.
+void ShowChange(frmAddWater& form, const FieldChange& change) {
+    form.lblChange.Caption = ChangeLine(change);
+    TakeLists(form, change.File);
     ShowAll(form);
 }
 
-bool DateStands(JulianValue day) {
-    const std::optional<Refused> refused = WaterRefusedOn(day);
-    if (refused) TheScreen().Tell(refused->Text, refused->Title);
-    return !refused;
-}
-
-/// Applies an amount, nothing to remove it, to the list of one side, and saves what has changed.
-void Apply(frmAddWater& form, const Side& side, JulianValue day, std::optional<double> mm) {
-    FieldLists lists;
-    lists.Rain = form.RainEvents;
-    lists.Irrigation = form.IrrEvents;
-    switch (ComputedFrom(FieldFileName(State.CurrentField), [&] {
-        return ManageEvents(&side.Events == &form.RainEvents ? lists.Rain : lists.Irrigation, day, mm);
-    })) {
-        case ListChange::Changed:
-            Save(form, std::move(lists));
-            form.Recorded = true;
-            break;
-        case ListChange::NoMatch: TheScreen().Tell("No matching date found", "Try again..."); break;
-        case ListChange::Unchanged: break;
+/// Shows what was done, if anything was, and puts the focus where the user goes on.
+void Follow(frmAddWater& form, const Side& side, const OrRefused<FieldChange>& outcome) {
+    if (!outcome.IsDone()) Tell(TheScreen(), outcome.Why());
+    if (outcome.IsDone() && outcome->IsRecorded) {
+        ShowChange(form, *outcome);
+        form.Recorded = true;
     }
+    Focus(!outcome.IsDone() && outcome.Why().Where == Given::Amount ? side.Amount : side.Date);
 }
 
 void Record(frmAddWater& form, const Side& side) {
     const JulianValue day = TypedDay(side.Date);
-    if (!DateStands(day)) return Focus(side.Date);
-    const std::optional<double> amount = Numeric(side.Amount.Text);
-    if (!amount || *amount <= 0) {
-        amount ? TheScreen().Tell("Please enter a value greater than 0.  Use Delete button if deleting values",
-                                  "Bad Data!")
-               : TheScreen().Tell(side.NoAmount, "Missing Data!");
-        return Focus(side.Amount);
-    }
-    Apply(form, side, day, ToSingle(State.EnglishUnits ? *amount * MillimetresPerInch : *amount, "Amount of water"));
-    Focus(side.Date);
+    std::optional<double> amount = Numeric(side.Amount.Text);
+    if (amount && State.EnglishUnits) *amount *= MillimetresPerInch;
+    Follow(form, side, RecordWater(TheScreen(), side.Kind, day, amount));
 }
 
 void Delete(frmAddWater& form, const Side& side) {
     const ListItem* selected = side.List.Selected();
     const JulianValue day = selected != nullptr ? selected->Data : TypedDay(side.Date);
-    if (!DateStands(day)) return;
-    if (!TheScreen().YesNo(fmt::format("{}{}?", side.ConfirmDelete, JulianToShortText(day)), "DELETE Confirmation",
-                           Icon::Question, false))
-        return;
-    side.Removed = true;
-    Apply(form, side, day, std::nullopt);
-    side.Removed = false;
-    Focus(side.Date);
+    const OrRefused<FieldChange> outcome = RemoveWater(TheScreen(), side.Kind, day);
+    const bool wasLookedFor = outcome.IsDone() || outcome.Why().Where == Given::Entry;
+    if (wasLookedFor) return Follow(form, side, outcome);
+    Tell(TheScreen(), outcome.Why());
 }
 
 void Load(frmAddWater& form) {
@@ -173,7 +131,8 @@ void Load(frmAddWater& form) {
 void UnloadForm(frmAddWater& form) {
     Show(FormName::frmField);
     if (!form.Cancelled || !form.Recorded) return;
-    Save(form, form.AtOpening);
+    const auto restored = RestoreWater(TheScreen(), form.AtOpening.Rain, form.AtOpening.Irrigation);
+    if (restored.IsDone()) ShowChange(form, *restored);
     ShowNext(The<frmField>());
 }
 
@@ -196,31 +155,6 @@ void cmdCancel_Click(frmAddWater& form) {
 }
 
 }  // namespace
-
-std::optional<Refused> WaterRefusedOn(JulianValue day) {
-    const JulianValue depletionSet = State.Updates[State.CurrentField];
-    const JulianValue planted = State.Header().PlantDay;
-    if (depletionSet > 0 && day <= depletionSet)
-        return Refused{
-            "Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' if you "
-            "want to add water.",
-            "Veraqua Warning"};
-    if (State.DriedOutDay >= 1 && day >= State.DriedOutDay)
-        return Refused{
-            fmt::format("Your field dried out (99% water depletion) on {}.  Irrigation must be prior to that "
-                        "date.",
-                        JulianToShortText(State.DriedOutDay)),
-            "Depletion Warning"};
-    if (day < planted + 1)
-        return Refused{fmt::format("Use a Date after {}.  Dates on or prior to planting date are not permitted.",
-                                   JulianToShortText(State.IsHay ? planted + 1 : planted)),
-                       "Invalid Water Date"};
-    if (day > State.TodayJulian)
-        return Refused{fmt::format("Use a Date before {}.  Dates into the future are not permitted.",
-                                   JulianToShortText(State.TodayJulian + 1)),
-                       std::string(ProgramTitle)};
-    return std::nullopt;
-}
 
 FormTable TableOf(frmAddWater& form) {
     FormFor table(form, FormName::frmAddWater, "frmAddWater");

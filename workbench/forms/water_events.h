@@ -56,13 +56,4 @@ struct frmAddWater : Form {
 
 FormTable TableOf(frmAddWater& form);
 
-/// What is told to the user who is refused.
-struct Refused {
-    std::string Text;
-    std::string Title;
-};
-
-/// Whether the field in work may get water on `day`, 0 if no date was read. Nothing if it may.
-std::optional<Refused> WaterRefusedOn(JulianValue day);
-
 }  // namespace veraqua

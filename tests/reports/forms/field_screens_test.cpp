@@ -1,3 +1,4 @@
+#include "core/field_in_work.h"
 #include "reports/forms/field_history.h"
 #include "reports/forms/field_summary.h"
 #include "reports/forms/report_roads.h"

@@ -1,4 +1,4 @@
-#include "workbench/forms/harvest.h"
+#include "workbench/harvest.h"
 
 #include <filesystem>
 #include <set>
@@ -46,7 +46,7 @@ TEST_F(HarvestTest, LaterFieldsMoveUpWithTheirRowsAndDatesAndARestoredFieldIsAsI
     EXPECT_EQ(User.LastAsked(), "Delete Confirmation: Please confirm you wish to harvest/delete Field ID = 2         ");
     EXPECT_EQ(User.LastSaid(),
               "Field Harvested/Deleted: Your field was deleted and backed up to 2         _150703_ 1.dat");
-    EXPECT_EQ(Directory.Raw(Form.BackupName), file);
+    EXPECT_EQ(Directory.Raw("2         _150703_ 1.dat"), file);
     EXPECT_EQ(FieldsInRows(), (Ids{"1", "3", "4", "5"}));
     EXPECT_EQ(State.Updates[2], Today - 3);
 
@@ -81,7 +81,7 @@ TEST_F(HarvestTest, AHarvestThatIsDeclinedOrRefusedChangesNothing) {
     Menu.Click("mnuDelete");
     EXPECT_THAT(User.LastSaid(),
                 testing::StartsWith("File Error: Field file renumbering error (for files past deleted one).  field3"));
-    EXPECT_TRUE(Directory.Has("field1.dat") && Form.BackupName.empty() && State.CurrentField == 1);
+    EXPECT_TRUE(Directory.Has("field1.dat") && State.CurrentField == 1);
 }
 
 TEST_F(HarvestTest, ABackupFromElsewhereIsRunFromPlanting) {
@@ -89,9 +89,9 @@ TEST_F(HarvestTest, ABackupFromElsewhereIsRunFromPlanting) {
         Plant(AField().Id("a/b").Days(ThroughYesterday), 1);
         Harvest(0);
     }
-    EXPECT_EQ(Form.BackupName, "a-b       _150703_ 2.dat");
+    EXPECT_THAT(User.LastSaid(), testing::EndsWith("backed up to a-b       _150703_ 2.dat"));
     Directory.Delete("a-b       _150703_ 1.row");
-    EXPECT_EQ(RestoreField("a-b       _150703_ 1.dat"), 1);
+    EXPECT_EQ(*RestoreField(User, "a-b       _150703_ 1.dat"), 1);
     EXPECT_THAT(User.LastSaid(), testing::EndsWith("Its depletion date was not kept. It was run from planting."));
     EXPECT_EQ(State.Stat[1].LastDay, Today - 1);
     EXPECT_EQ(LoadFieldFile(1).Days.at(1).EtrSum, 6);  // that of the weather
@@ -100,23 +100,22 @@ TEST_F(HarvestTest, ABackupFromElsewhereIsRunFromPlanting) {
 TEST_F(HarvestTest, WhatCannotBeRestoredStaysABackup) {
     PlantRows({1, 2});
     Harvest(0);
-    const std::string backup = Form.BackupName;
+    const std::string backup = "1         _150703_ 1.dat";
     PlantRows({1});
     auto before = Files();
-    EXPECT_EQ(RestoreField(backup), std::nullopt);
-    EXPECT_EQ(User.Told.back().Title, "Duplicate Field ID");
-    EXPECT_EQ(RestoreField("field1.dat"), std::nullopt);
+    EXPECT_EQ(RestoreField(User, backup).Why().Title, "Duplicate Field ID");
+    EXPECT_FALSE(RestoreField(User, "field1.dat").IsDone());
     EXPECT_EQ(Files(), before);
     Harvest(0);
     for (const std::string& name : {backup, backup.substr(0, 21) + "row"}) {
         const std::string whole = Directory.Raw(name);
         Directory.Put(name, whole.substr(0, whole.size() - 1));
         before = Files();
-        EXPECT_THROW(RestoreField(backup), RunTimeFailure) << name;
+        EXPECT_THROW(RestoreField(User, backup), RunTimeFailure) << name;
         EXPECT_EQ(Files(), before);
         Directory.Put(name, whole);
     }
-    EXPECT_EQ(RestoreField(backup), 1);
+    EXPECT_EQ(*RestoreField(User, backup), 1);
 }
 
 TEST_F(HarvestTest, APowerCutAtAnyCallOfTheDiskLeavesTheFieldWholeOrHarvested) {
@@ -128,6 +127,7 @@ TEST_F(HarvestTest, APowerCutAtAnyCallOfTheDiskLeavesTheFieldWholeOrHarvested) {
         Directory.Reopen();
         StartUp(User);
     };
+    User.OtherAnswer = true;
     std::set<Ids> seen;
     bool died = true;
     for (int n = 1; died; ++n) {
@@ -137,7 +137,7 @@ TEST_F(HarvestTest, APowerCutAtAnyCallOfTheDiskLeavesTheFieldWholeOrHarvested) {
         disk.RefuseCall(n);
         files::InstallDisk(&disk);
         try {
-            HarvestField(2);
+            HarvestField(User, 2);
             died = false;
         } catch (const files::Died&) {}
         files::InstallDisk(nullptr);
