@@ -78,8 +78,7 @@ bool TakeUpField(Session& session, int row) {
 }
 
 bool TakeUpFieldToRun(Session& session, int row) {
-    return TakeUpField(session, row) &&
-           FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)) != Coverage::RegionMissing;
+    return TakeUpField(session, row) && FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)).IsKnown();
 }
 
 int PrintRow(Session& session, int row) {
