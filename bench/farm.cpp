@@ -78,9 +78,7 @@ Farm::Farm(int fields, std::int16_t days, bool withHay) {
     StartUp(ask_);
     State.StationCode = "06";
     LoadWeatherCoefficients(ask_, RegionOfStation(State.StationCode));
-    State.WeatherNeedFrom = JulianFromDate(1, 1, 2026);
-    State.WeatherNeedTo = Today - 1;
-    WriteDefaultWeather();
+    WriteDefaultWeather({JulianFromDate(1, 1, 2026), Today - 1});
     for (int row = 1; row <= fields; ++row) AddField(ask_, row, withHay && row % 2 == 0, days);
     changes.Commit();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "core/ask.h"
@@ -14,9 +13,8 @@ class QuietAsk : public Ask {
     void Tell(std::string_view, std::string_view, Icon) override {}
     bool YesNo(std::string_view, std::string_view, Icon, bool) override { return true; }
     JulianValue Now() const override;
-    HttpReply Get(const std::string&, const std::function<void(std::string_view)>&) override { return {}; }
     void Progress(std::string_view, std::size_t, std::size_t) override {}
-    void ChooseWeatherSource() override {}
+    WeatherChoice ChooseWeatherSource(const DayRange&) override { return WeatherChoice::Left; }
     [[noreturn]] void EndProgram() override;
 };
 

@@ -4,7 +4,6 @@
 #include "bench/farm.h"
 #include "catch_up/weather_commands.h"
 #include "core/files/files.h"
-#include "core/state.h"
 
 namespace veraqua::bench {
 namespace {
@@ -28,9 +27,7 @@ void ImportOfAYear(benchmark::State& run) {
     for (auto _ : run) {
         files::ChangeSet changes;
         files::Write("kesta.25", text);
-        State.WeatherNeedFrom = JulianFromDate(1, 1, 2025);
-        State.WeatherNeedTo = JulianFromDate(12, 31, 2025);
-        ImportRange(farm.Outside(), WeatherCommand::Append, false);
+        ImportRange(farm.Outside(), WeatherCommand::Append, {JulianFromDate(1, 1, 2025), JulianFromDate(12, 31, 2025)});
     }
 }
 BENCHMARK(ImportOfAYear)->Unit(benchmark::kMillisecond);

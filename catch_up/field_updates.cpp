@@ -5,6 +5,7 @@
 #include "core/directory.h"
 #include "core/field_in_work.h"
 #include "core/files/files.h"
+#include "core/in_work.h"
 #include "core/state.h"
 #include "engine/season_run.h"
 #include "weather/coverage.h"
@@ -28,21 +29,6 @@ UpdateStatus StatusOf(const FieldRun& run) {
     return run.Outcome == RunOutcome::Done ? UpdateStatus::Done : UpdateStatus::Refused;
 }
 
-/// The field and the station in work before a walk over many fields.
-struct InWork {
-    std::int16_t Field = State.CurrentField;
-    std::string StationCode = State.StationCode;
-    std::string StationName = State.StationName;
-
-    /// Takes them up again, the field as the walk has left its file.
-    void Return(Ask& ask) const {
-        State.CurrentField = 0;
-        if (Field > 0) SelectField(ask, Field);
-        State.StationCode = StationCode;
-        State.StationName = StationName;
-    }
-};
-
 /// Makes what `walk` does to many fields one set of changes. Where the disk refuses them, the directory is as on disk
 /// again, which only shows once the set is gone.
 template <class Walk>
@@ -63,7 +49,7 @@ void AsOneSet(Ask& ask, Walk walk) {
 /// The season of a field on the weather that is there.
 UpdateStatus UpdateRow(Ask& ask, int row) {
     if (!SelectField(ask, row)) return UpdateStatus::Refused;
-    if (FindCoverage(ask, YearOf(State.Stat[row].LastDay)) == Coverage::RegionMissing) return UpdateStatus::Refused;
+    if (!FindCoverage(ask, YearOf(State.Stat[row].LastDay)).IsKnown()) return UpdateStatus::Refused;
     return StatusOf(UpdateField(ask));
 }
 

@@ -1,5 +1,6 @@
 #include "catch_up/weather_check.h"
 
+#include "core/in_work.h"
 #include "core/state.h"
 #include "weather/coverage.h"
 
@@ -7,31 +8,33 @@ namespace veraqua {
 
 namespace {
 
-/// The user has picked another station where he brought the weather in: that of the field comes back, with its own
-/// coverage and default weather, and how the work has ended stays.
-void ReturnToStation(Ask& ask, const std::string& code, const std::string& name, int startYear) {
-    State.StationCode = code;
-    State.StationName = name;
-    const bool failed = State.DownloadFailed;
-    const bool cancelled = State.ReportCancelled;
-    const bool known = FindCoverage(ask, startYear) != Coverage::RegionMissing;
-    State.DownloadFailed = failed || !known;
-    State.ReportCancelled = cancelled;
+/// Sends the user to bring the days `needed` in until they have done so or leave.
+WeatherChoice BringIn(Ask& ask, const DayRange& needed) {
+    ask.Tell("Weather data required from " + JulianToShortText(needed.From) + " to " + JulianToShortText(needed.To),
+             "Weather Info");
+    WeatherChoice choice = WeatherChoice::Failed;
+    while (choice == WeatherChoice::Failed) choice = ask.ChooseWeatherSource(needed);
+    return choice;
 }
 
 }  // namespace
 
-void CheckWeather(Ask& ask, int startYear) {
-    if (FindCoverage(ask, startYear) != Coverage::WeatherNeeded) return;
-    const std::string code = State.StationCode;
-    const std::string name = State.StationName;
-    ask.Tell("Weather data required from " + JulianToShortText(State.WeatherNeedFrom) + " to " +
-                 JulianToShortText(State.WeatherNeedTo),
-             "Weather Info");
-    do {
-        ask.ChooseWeatherSource();
-    } while (State.DownloadFailed && !State.ReportCancelled);
-    if (State.StationCode != code) ReturnToStation(ask, code, name, startYear);
+WeatherCheck CheckWeather(Ask& ask, int startYear) {
+    const InWork before;
+    const Coverage coverage = FindCoverage(ask, startYear);
+    if (!coverage.IsKnown()) return WeatherCheck::Abandoned;
+    if (coverage.Reach == Coverage::Kind::Current) return WeatherCheck::Ready;
+    const bool left = BringIn(ask, coverage.Needed) == WeatherChoice::Left;
+    bool known = true;
+    if (!before.HasStation()) {
+        // The user has picked another one where the weather was brought in.
+        before.ReturnStation();
+        known = FindCoverage(ask, startYear).IsKnown();
+    }
+    const bool abandoned = left || !known;
+    State.ReportCancelled = left;
+    State.DownloadFailed = abandoned;
+    return abandoned ? WeatherCheck::Abandoned : WeatherCheck::Ready;
 }
 
 }  // namespace veraqua

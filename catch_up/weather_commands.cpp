@@ -7,6 +7,8 @@
 #include "core/base/numbers.h"
 #include "core/files/files.h"
 #include "core/state.h"
+#include "weather/coverage.h"
+#include "weather/default_weather.h"
 #include "weather/import.h"
 #include "weather/network_text.h"
 #include "weather/weather_file.h"
@@ -28,9 +30,25 @@ const ImportWording& WordingOf(WeatherCommand command) {
 
 JulianValue Yesterday() { return State.TodayJulian - 1; }
 
+/// Weather has been brought in through `day`.
+void RaiseLastDay(JulianValue day) { State.WeatherLastJulian = std::max(State.WeatherLastJulian, day); }
+
+CommandReport Ended(CommandEnding ending, const DayRange& range = {}) {
+    CommandReport report;
+    report.Ending = ending;
+    report.Range = range;
+    return report;
+}
+
+/// The wanted weather has not been obtained.
+CommandReport Failed(const DayRange& range) {
+    State.DownloadFailed = true;
+    return Ended(CommandEnding::Failed, range);
+}
+
 /// False if the user wants no default days in the place of those that the text lacks.
-bool AcceptsMissingDays(Ask& ask, int lines, int year) {
-    const JulianValue expected = State.WeatherNeedTo - JulianFromDate(1, 1, year) + 1;
+bool AcceptsMissingDays(Ask& ask, int lines, const DayRange& range) {
+    const JulianValue expected = range.To - JulianFromDate(1, 1, YearOf(range.From)) + 1;
     if (lines >= expected) return true;
     return ask.YesNo(fmt::format("KESTA data is missing {} days worth of data.\n"
                                  "Do you wish to continue and use default data for the missing days?",
@@ -46,20 +64,19 @@ void TellWindlessDays(Ask& ask, const std::vector<JulianValue>& days) {
              "Weather Info", Icon::Information);
 }
 
-bool AppendRange(Ask& ask, int year) {
-    if (State.WeatherLastJulian < Yesterday()) {
-        FindMissingDays(year);
-        return true;
-    }
+std::optional<DayRange> AppendedRange(Ask& ask, int year) {
+    if (State.WeatherLastJulian < Yesterday()) return FindMissingDays(year);
     if (!ask.YesNo("Your weather data is already up-to-date\n  Do you want to overwrite it?", "Weather Info",
                    Icon::Question, true)) {
-        State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
-        return false;
+        RaiseLastDay(State.WeatherNeedTo);
+        return std::nullopt;
     }
-    State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-    if (State.WeatherNeedTo < State.WeatherNeedFrom) State.WeatherNeedTo = Yesterday();
-    return true;
+    // Where weather of this year was wanted before, its last day stays the one that is wanted.
+    const JulianValue first = JulianFromDate(1, 1, year);
+    return DayRange{first, State.WeatherNeedTo < first ? Yesterday() : State.WeatherNeedTo};
 }
+
+std::string NetworkFileName(int year) { return State.StationCode + YearSuffix(year) + "rd.txt"; }
 
 }  // namespace
 
@@ -69,71 +86,82 @@ bool StationIsChosen(Ask& ask) {
     return false;
 }
 
-std::string NetworkFileName() { return State.StationCode + State.WeatherYearSuffix + "rd.txt"; }
+bool LocationIsChosen(Ask& ask) {
+    if (State.StationCode != NoStation) return true;
+    ask.Tell("Please select your KESTA weather location first.");
+    return false;
+}
 
-void StoreNetworkText(std::string_view body) {
+std::string NetworkUrl(int year) { return State.BaseUrl + NetworkFileName(year); }
+
+void TellDownloadError(Ask& ask, const HttpReply& reply) {
+    ask.Tell(fmt::format("{}: {}", reply.Code, reply.Text), "Download Error");
+}
+
+void StoreNetworkText(int year, std::string_view body) {
     const std::string text = WithPlainLineEnds(body);
     files::ChangeSet changes;
-    files::Write(NetworkFileName(), text);
-    files::Write("kesta." + State.WeatherYearSuffix, text);
+    files::Write(NetworkFileName(year), text);
+    files::Write(NetworkTextName(year), text);
     changes.Commit();
 }
 
-JulianValue FindMissingDays(int year) {
+DayRange FindMissingDays(int year) {
     const JulianValue last = LastWeatherJulian(State.StationCode, year);
-    State.WeatherNeedFrom = last == 0 ? JulianFromDate(1, 1, year) : last + 1;
-    State.WeatherNeedTo = Yesterday();
+    const DayRange missing{last == 0 ? JulianFromDate(1, 1, year) : last + 1, Yesterday()};
+    WantWeather(missing);
     // The day after the last may be a 1 January.
-    State.WeatherYearSuffix = YearSuffix(YearOf(State.WeatherNeedFrom));
-    return last;
+    State.WeatherYearSuffix = YearSuffix(YearOf(missing.From));
+    return missing;
 }
 
-bool ChooseRange(Ask& ask, WeatherCommand command) {
+std::optional<DayRange> ChooseRange(Ask& ask, WeatherCommand command) {
     const int year = YearOf(ask.Now());
     State.WeatherYearSuffix = YearSuffix(year);
     State.WeatherLastJulian = LastWeatherJulian(State.StationCode, year);
-    if (command == WeatherCommand::Append) return AppendRange(ask, year);
-    State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-    State.WeatherNeedTo = Yesterday();
-    return true;
+    const std::optional<DayRange> range = command == WeatherCommand::Append
+                                              ? AppendedRange(ask, year)
+                                              : DayRange{JulianFromDate(1, 1, year), Yesterday()};
+    if (range) WantWeather(*range);
+    return range;
 }
 
-CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear) {
-    CommandReport report;
+void TakeRange(const DayRange& range) {
+    WantWeather(range);
+    State.WeatherLastJulian = LastWeatherJulian(State.StationCode, YearOf(range.To));
+}
+
+CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range) {
     const ImportWording& wording = WordingOf(command);
-    const int year = YearOf(State.WeatherNeedFrom);
+    const int year = YearOf(range.From);
     const auto text = files::Read(NetworkTextName(year));
     if (!text) {
         TellTextMissing(ask, wording, year);
-        report.Ending = CommandEnding::Failed;
-        return report;
+        return Failed(range);
     }
-    if (!AcceptsMissingDays(ask, CountLines(*text), year)) {
-        report.Ending = CommandEnding::Declined;
-        return report;
-    }
-    const ImportOutcome outcome = ImportWeather(ask, wording, oneYear);
-    report.LastDay = outcome.LastDay;
-    if (!outcome.Imported) {
-        report.Ending = CommandEnding::Failed;
-        return report;
-    }
+    if (!AcceptsMissingDays(ask, CountLines(*text), range)) return Ended(CommandEnding::Declined, range);
+    const ImportOutcome outcome = ImportWeather(ask, wording, range);
+    if (!outcome.Imported) return Failed(range);
     TellWindlessDays(ask, outcome.WindlessDays);
-    State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
-    report.Status = "Weather file updated from KESTA between " + JulianToShortText(State.WeatherNeedFrom) + " and " +
-                    JulianToShortText(State.WeatherNeedTo);
+    RaiseLastDay(range.To);
+    CommandReport report = Ended(CommandEnding::Done, range);
+    report.WeatherTo = State.WeatherLastJulian;
+    report.LastLine = outcome.LastDay;
+    report.Status = "Weather file updated from KESTA between " + JulianToShortText(range.From) + " and " +
+                    JulianToShortText(range.To);
     return report;
 }
 
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void()>& download) {
-    if (!StationIsChosen(ask)) return {CommandEnding::StationMissing, {}, {}, {}, {}};
-    if (!ChooseRange(ask, command)) return {CommandEnding::Declined, {}, {}, {}, {}};
-    download();
-    if (State.DownloadFailed) {
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download) {
+    if (!StationIsChosen(ask)) return Ended(CommandEnding::StationMissing);
+    const std::optional<DayRange> range = ChooseRange(ask, command);
+    if (!range) return Ended(CommandEnding::Declined);
+    if (!download(YearOf(range->From))) {
         TellDownloadFailed(ask);
-        return {CommandEnding::Failed, {}, {}, {}, {}};
+        return Failed(*range);
     }
-    CommandReport report = ImportRange(ask, command, false);
+    State.DownloadFailed = false;
+    CommandReport report = ImportRange(ask, command, *range);
     if (report.Ending != CommandEnding::Done) return report;
     report.CatchUp =
         UpdateFieldsForStation(ask, command == WeatherCommand::Append ? "Updating fields" : "Updating fields!");
@@ -141,12 +169,9 @@ CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function
     return report;
 }
 
-CommandReport AppendForChooser(Ask& ask) {
-    if (State.DownloadFailed) {
-        TellDownloadFailed(ask);
-        return {CommandEnding::Failed, {}, {}, {}, {}};
-    }
-    return ImportRange(ask, WeatherCommand::Append, true);
+void BringDefaultWeather(const DayRange& range) {
+    WriteDefaultWeather(range);
+    RaiseLastDay(range.To);
 }
 
 }  // namespace veraqua

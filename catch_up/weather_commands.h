@@ -7,10 +7,11 @@
 
 #include "catch_up/field_updates.h"
 #include "core/ask.h"
+#include "core/http_reply.h"
 #include "core/records.h"
 
-/// The commands that bring measured weather of the station in work up to date, from the network or from a text that is
-/// here already.
+/// The commands that bring weather of the station in work up to date: measured weather from the network or from a text
+/// that is here already, or default weather.
 namespace veraqua {
 
 /// The two ways of importing. They differ in their range and in some of their words.
@@ -23,15 +24,17 @@ enum class CommandEnding {
     Done,
     StationMissing,  ///< no station is chosen: the user has been told, and is to choose one
     Declined,        ///< the user answered a question with No
-    Failed,          ///< the user has been told; `DownloadFailed` is true
+    Failed,          ///< the user has been told; in the state `DownloadFailed` is true
 };
 
 struct CommandReport {
     CommandEnding Ending = CommandEnding::Done;
+    DayRange Range;             ///< the days that were to be brought in
+    JulianValue WeatherTo = 0;  ///< last day with weather afterwards
     std::string Status;         ///< what was done, for the first status panel
     std::string FieldsUpdated;  ///< text about the catch-up, where there was one
     std::optional<StationCatchUp> CatchUp;
-    WeatherDay LastDay;  ///< the last day of the text, for display
+    WeatherDay LastLine;  ///< the last line of the text that was looked at, for display
 };
 
 /// `StationCode` while no station is chosen.
@@ -40,31 +43,39 @@ constexpr std::string_view NoStation = "00";
 /// False, after the user has been told, while no station is chosen.
 bool StationIsChosen(Ask& ask);
 
-/// Name of the text of the station in work and the year of `WeatherYearSuffix`, on the network and here: "0603rd.txt".
-std::string NetworkFileName();
+/// The same in the words of the commands that need no network.
+bool LocationIsChosen(Ask& ask);
 
-/// Keeps a text that has been fetched, under its remote name and as the year's text to import. RunTimeFailure if the
+/// Where the text of the station in work and `year` is on the network: "http://kesta.example/kesta/data/0603rd.txt".
+std::string NetworkUrl(int year);
+
+/// Tells why a request to the network has failed.
+void TellDownloadError(Ask& ask, const HttpReply& reply);
+
+/// Keeps a text that has been fetched, under its remote name and as the text of `year` to import. RunTimeFailure if the
 /// disk refuses; then both are as before.
-void StoreNetworkText(std::string_view body);
+void StoreNetworkText(int year, std::string_view body);
 
-/// Last day of weather in the file of `year`, 0 if there is none; the range of days from there through yesterday
-/// becomes the one that is needed.
-JulianValue FindMissingDays(int year);
+/// Works out the days that the file of `year` lacks through yesterday. They become those for which weather is wanted.
+DayRange FindMissingDays(int year);
 
-/// Sets the range that `command` is to bring in. False if the user declines to overwrite weather that is up to date.
-bool ChooseRange(Ask& ask, WeatherCommand command);
+/// The days that `command` is to bring in; nothing if the user declines to overwrite weather that is up to date.
+std::optional<DayRange> ChooseRange(Ask& ask, WeatherCommand command);
 
-/// Imports the range from the text that is here: tests for it, asks about days that it lacks, imports, and raises
-/// `WeatherLastJulian`.
-///   oneYear  the range lies in one year
-CommandReport ImportRange(Ask& ask, WeatherCommand command, bool oneYear);
+/// The same where the user has named the days. They become those for which weather is wanted.
+void TakeRange(const DayRange& range);
+
+/// Imports `range` from the text that is here: tests for it, asks about days that it lacks, imports, and raises the
+/// last day with weather.
+CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range);
+
+/// Fetches the text of the station in work and a year and stores it. False after the user has been told why not.
+using Download = std::function<bool(int year)>;
 
 /// The whole menu command: range, download, import, and the catch-up of the station's fields.
-///   download  fetches the text of `NetworkFileName` and stores it, or sets `DownloadFailed` and tells the user why
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const std::function<void()>& download);
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download);
 
-/// What the station chooser does with its own range, which lies in one year, once it has downloaded: no question about
-/// the range, no catch-up.
-CommandReport AppendForChooser(Ask& ask);
+/// Writes default weather for `range` and raises the last day with weather.
+void BringDefaultWeather(const DayRange& range);
 
 }  // namespace veraqua

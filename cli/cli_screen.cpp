@@ -8,8 +8,7 @@
 
 #include <fmt/format.h>
 
-#include "cli/http_get.h"
-#include "core/state.h"
+#include "catch_up/weather_commands.h"
 
 namespace veraqua {
 
@@ -42,11 +41,10 @@ bool CliScreen::YesNo(std::string_view text, std::string_view title, Icon, bool)
     return answer_;
 }
 
-HttpReply CliScreen::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
-    return HttpGet(url, [&](std::string_view text) {
-        ShowState(text);
-        state(text);
-    });
+WeatherChoice CliScreen::ChooseWeatherSource(const DayRange& wanted) {
+    if (!answer_) return WeatherChoice::Left;
+    BringDefaultWeather(wanted);
+    return WeatherChoice::Taken;
 }
 
 void CliScreen::Progress(std::string_view what, std::size_t done, std::size_t total) {

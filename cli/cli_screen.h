@@ -22,8 +22,9 @@ class CliScreen : public HeadlessScreen {
     void Tell(std::string_view text, std::string_view title = ProgramTitle, Icon icon = Icon::None) override;
     bool YesNo(std::string_view text, std::string_view title, Icon icon, bool noIsDefault) override;
     JulianValue Now() const override { return now_; }
-    HttpReply Get(const std::string& url, const std::function<void(std::string_view)>& state) override;
     void Progress(std::string_view what, std::size_t done, std::size_t total) override;
+    /// The answer yes takes default weather; no leaves without a choice.
+    WeatherChoice ChooseWeatherSource(const DayRange& wanted) override;
     void SetNow(JulianValue today) override { now_ = today; }
     /// Ends the command: there is nobody to go on with the form.
     void Failed(const RunTimeFailure&) override { throw; }

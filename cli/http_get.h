@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "core/ask.h"
+#include "core/http_reply.h"
 
 namespace veraqua {
 

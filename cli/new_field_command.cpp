@@ -44,7 +44,6 @@ class Entry {
 
     /// The row of the new field; nothing after a message.
     std::optional<int> Make() {
-        session_.Outside.WhenShown(FormName::frmKESTA, [this] { AtWeatherChooser(); });
         session_.Outside.WhenShown(FormName::frmCopySoilData, [this] { AtSoilCopy(); });
         session_.Outside.WhenShown(FormName::frmCapVar, [this] { AtLayers(); });
         session_.Outside.WhenShown(FormName::frmCap, [this] { AtZones(); });
@@ -100,11 +99,6 @@ class Entry {
         type("txtDry", options_.DryDays);
         if (options_.CopySoil) form.Click("Opt_current");
         return !form.Held();
-    }
-
-    /// Yes takes default weather; No leaves without a choice.
-    void AtWeatherChooser() {
-        if (session_.Options.AnswerIsYes) At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return");
     }
 
     void AtSoilCopy() {

@@ -72,7 +72,7 @@ bool IsField(Session& session, int row) {
 
 bool TakeUpFieldToRun(Session& session, int row) {
     return IsField(session, row) && SelectField(session.Outside, row) &&
-           FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)) != Coverage::RegionMissing;
+           FindCoverage(session.Outside, YearOf(State.Stat[row].LastDay)).IsKnown();
 }
 
 int PrintRow(Session& session, int row) {

@@ -5,14 +5,13 @@
 #include <fmt/format.h>
 
 #include "cli/commands.h"
+#include "cli/http_get.h"
 #include "cli/weather_text.h"
 #include "core/base/numbers.h"
 #include "core/directory.h"
 #include "core/state.h"
-#include "screen/headless.h"
 #include "weather/coverage.h"
 #include "weather/default_weather.h"
-#include "weather/forms/weather_menu.h"
 #include "weather/import.h"
 #include "weather/network_text.h"
 #include "weather/reference_et.h"
@@ -43,26 +42,35 @@ bool OpenStation(Session& session, const std::string& code) {
            LoadWeatherCoefficients(session.Outside, RegionOfStation(State.StationCode));
 }
 
-bool SetRange(Session& session, const std::string& from, const std::string& to) {
+/// The range of days that was typed; nothing after a message.
+std::optional<DayRange> RangeFrom(Session& session, const std::string& from, const std::string& to) {
     const std::optional<JulianValue> first = session.DateFrom(from);
-    if (!first) return false;
+    if (!first) return std::nullopt;
     const std::optional<JulianValue> last = session.DateFrom(to);
-    if (!last) return false;
+    if (!last) return std::nullopt;
     if (YearOf(*last) - YearOf(*first) >= MostYears) {
         session.Outside.Tell(fmt::format("A range of weather must be shorter than {} years.", MostYears));
-        return false;
+        return std::nullopt;
     }
-    State.WeatherNeedFrom = *first;
-    State.WeatherNeedTo = *last;
-    return true;
+    return DayRange{*first, *last};
 }
 
-/// The range of an import and the last day of weather before it.
-bool SetImportRange(Session& session, const ImportOptions& options) {
+/// The days that an import is to bring in; nothing after a message or a question that was answered no.
+std::optional<DayRange> RangeOfImport(Session& session, const ImportOptions& options) {
     if (!options.From || !options.To) return ChooseRange(session.Outside, WeatherCommand::Append);
-    if (!SetRange(session, *options.From, *options.To)) return false;
-    State.WeatherLastJulian = LastWeatherJulian(State.StationCode, YearOf(State.WeatherNeedTo));
-    return true;
+    const std::optional<DayRange> range = RangeFrom(session, *options.From, *options.To);
+    if (range) TakeRange(*range);
+    return range;
+}
+
+/// Fetches the text of `year` from the network, as the download window does.
+bool Fetch(CliScreen& outside, int year) {
+    const HttpReply reply = HttpGet(NetworkUrl(year), [&outside](std::string_view state) { outside.ShowState(state); });
+    if (reply.Succeeded)
+        StoreNetworkText(year, reply.Body);
+    else
+        TellDownloadError(outside, reply);
+    return reply.Succeeded;
 }
 
 int StatusOf(const CommandReport& report) {
@@ -71,26 +79,24 @@ int StatusOf(const CommandReport& report) {
     return report.CatchUp->Worst == UpdateStatus::Failed ? ExitFailure : ExitRefused;
 }
 
-Json JsonOfImport() {
-    return {{"from", JsonOf(State.WeatherNeedFrom)},
-            {"to", JsonOf(State.WeatherNeedTo)},
-            {"last_day", JsonOf(State.WeatherLastJulian)}};
+Json JsonOfImport(const CommandReport& report) {
+    return {
+        {"from", JsonOf(report.Range.From)}, {"to", JsonOf(report.Range.To)}, {"last_day", JsonOf(report.WeatherTo)}};
 }
 
 }  // namespace
 
 int RunWeatherDefault(Session& session, const std::string& station, const std::string& from, const std::string& to) {
     if (!OpenStation(session, station)) return ExitRefused;
-    if (State.StationCode == NoStation) {
-        session.Outside.Tell("Please select your KESTA weather location first.");
-        return ExitRefused;
-    }
-    if (!SetRange(session, from, to)) return ExitRefused;
-    WriteDefaultWeather();
-    const int days = std::max(0, State.WeatherNeedTo - State.WeatherNeedFrom + 1);
-    session.Print({{"from", JsonOf(State.WeatherNeedFrom)}, {"to", JsonOf(State.WeatherNeedTo)}, {"days", days}},
+    if (!LocationIsChosen(session.Outside)) return ExitRefused;
+    const std::optional<DayRange> range = RangeFrom(session, from, to);
+    if (!range) return ExitRefused;
+    WantWeather(*range);
+    WriteDefaultWeather(*range);
+    const int days = std::max(0, range->To - range->From + 1);
+    session.Print({{"from", JsonOf(range->From)}, {"to", JsonOf(range->To)}, {"days", days}},
                   fmt::format("Weather files updated with DEFAULT Data between {} and {}\n",
-                              JulianToShortText(State.WeatherNeedFrom), JulianToShortText(State.WeatherNeedTo)));
+                              JulianToShortText(range->From), JulianToShortText(range->To)));
     return ExitDone;
 }
 
@@ -98,21 +104,22 @@ int RunWeatherImport(Session& session, const ImportOptions& options) {
     if (!OpenStation(session, options.Station) || !StationIsChosen(session.Outside)) return ExitRefused;
     files::Bytes text = files::ReadOutside(options.File, LargestNetworkText);
     files::ChangeSet changes;
-    if (!SetImportRange(session, options)) return ExitRefused;
-    files::Write(NetworkTextName(YearOf(State.WeatherNeedFrom)), std::move(text));
-    const CommandReport report = ImportRange(session.Outside, WeatherCommand::Append, false);
+    const std::optional<DayRange> range = RangeOfImport(session, options);
+    if (!range) return ExitRefused;
+    files::Write(NetworkTextName(YearOf(range->From)), std::move(text));
+    const CommandReport report = ImportRange(session.Outside, WeatherCommand::Append, *range);
     changes.Commit();
-    if (report.Ending == CommandEnding::Done) session.Print(JsonOfImport(), report.Status + "\n");
+    if (report.Ending == CommandEnding::Done) session.Print(JsonOfImport(report), report.Status + "\n");
     return StatusOf(report);
 }
 
 int RunWeatherFetch(Session& session, const std::string& station, bool overwrite) {
     if (!OpenStation(session, station)) return ExitRefused;
-    Show(FormName::frmWeather);
-    At(FormName::frmWeather).Click(overwrite ? "mnu_OverwriteWeather" : "mnu_AppendWeather");
-    const CommandReport& report = The<frmWeather>().Report;
+    const CommandReport report =
+        BringWeather(session.Outside, overwrite ? WeatherCommand::Overwrite : WeatherCommand::Append,
+                     [&session](int year) { return Fetch(session.Outside, year); });
     if (report.Ending == CommandEnding::Done) {
-        Json json = JsonOfImport();
+        Json json = JsonOfImport(report);
         json["fields_updated"] = report.CatchUp->Fields;
         session.Print(json, report.Status + "\n" + report.FieldsUpdated + "\n");
     }
@@ -122,14 +129,14 @@ int RunWeatherFetch(Session& session, const std::string& station, bool overwrite
 int RunWeatherCheck(Session& session, const std::string& station, int year) {
     if (!session.OpenData(files::Access::Write) || !ChooseStation(session, station)) return ExitRefused;
     const Coverage coverage = FindCoverage(session.Outside, year);
-    if (coverage == Coverage::RegionMissing) return ExitRefused;
-    const bool needed = coverage == Coverage::WeatherNeeded;
-    session.Print({{"last_day", JsonOf(State.WeatherLastJulian)},
-                   {"need_from", JsonOf(needed ? State.WeatherNeedFrom : 0)},
-                   {"need_to", JsonOf(needed ? State.WeatherNeedTo : 0)}},
-                  needed ? fmt::format("Weather data required from {} to {}\n",
-                                       JulianToShortText(State.WeatherNeedFrom), JulianToShortText(State.WeatherNeedTo))
-                         : "Weather is up to date.\n");
+    if (!coverage.IsKnown()) return ExitRefused;
+    const DayRange& needed = coverage.Needed;
+    session.Print(
+        {{"last_day", JsonOf(coverage.LastDay)}, {"need_from", JsonOf(needed.From)}, {"need_to", JsonOf(needed.To)}},
+        coverage.Reach == Coverage::Kind::WeatherNeeded
+            ? fmt::format("Weather data required from {} to {}\n", JulianToShortText(needed.From),
+                          JulianToShortText(needed.To))
+            : "Weather is up to date.\n");
     return ExitDone;
 }
 

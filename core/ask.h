@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,12 +13,11 @@ enum class Icon { None, Information, Question, Warning, Stop };
 /// Title of a message that has none of its own.
 constexpr std::string_view ProgramTitle = "Veraqua";
 
-/// What came of a request to the weather network.
-struct HttpReply {
-    bool Succeeded = false;
-    int Code = 0;      ///< HTTP status, or the transport's error number
-    std::string Text;  ///< reason, fit for the user, where it failed
-    std::string Body;
+/// How the user's choice of where to take weather from has ended.
+enum class WeatherChoice {
+    Taken,   ///< from somewhere, though the user may have declined a part of it
+    Failed,  ///< nothing could be had from there; the user has been told and may choose again
+    Left,    ///< without a choice
 };
 
 /// What a calculating room may need of the outside. The desktop, the command line and the tests each make it real.
@@ -36,15 +34,11 @@ class Ask {
     /// The computer's date, or the date that the user put in its place.
     virtual JulianValue Now() const = 0;
 
-    /// HTTP GET. `state` is called with a text for the user while it goes on; it returns when all is over.
-    virtual HttpReply Get(const std::string& url, const std::function<void(std::string_view)>& state) = 0;
-
     /// Long work has come to `done` of `total`; `what` names it, such as "Updating fields".
     virtual void Progress(std::string_view what, std::size_t done, std::size_t total) = 0;
 
-    /// Lets the user bring the weather of the station in work up to date, from `WeatherNeedFrom` to `WeatherNeedTo`.
-    /// Afterwards `DownloadFailed` and `ReportCancelled` tell the outcome.
-    virtual void ChooseWeatherSource() = 0;
+    /// Lets the user bring in the weather of the station in work for the days `wanted`.
+    virtual WeatherChoice ChooseWeatherSource(const DayRange& wanted) = 0;
 
     /// Ends the program after a message that said why. Does not return.
     [[noreturn]] virtual void EndProgram() = 0;

@@ -33,6 +33,14 @@ struct DayInYear {
     bool operator==(const DayInYear&) const = default;
 };
 
+/// The days from `From` through `To`; none where `To` lies before `From`.
+struct DayRange {
+    JulianValue From = 0;
+    JulianValue To = 0;
+
+    bool operator==(const DayRange&) const = default;
+};
+
 namespace calendar_detail {
 
 constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {

@@ -123,7 +123,7 @@ void HttpRequest::Cancel() {
 
 void HttpRequest::Send(const std::string& url) {
     const std::shared_ptr<Exchange> sent = exchange_;
-    Report({HttpProgress::Resolving, {}});
+    Report({HttpState::Resolving, {}});
     if (exchange_ != sent) return;
     const QUrl asked = UrlOf(url);
     if (std::optional<HttpReply> refusal = RefusalOf(asked)) return End(std::move(*refusal));
@@ -139,8 +139,8 @@ void HttpRequest::Follow() {
             if (exchange_ && exchange_->Reply == reply) act();
         });
     };
-    when(&QNetworkReply::socketStartedConnecting, [this] { Report({HttpProgress::Connecting, {}}); });
-    when(&QNetworkReply::requestSent, [this] { Report({HttpProgress::Connected, {}}); });
+    when(&QNetworkReply::socketStartedConnecting, [this] { Report({HttpState::Connecting, {}}); });
+    when(&QNetworkReply::requestSent, [this] { Report({HttpState::Connected, {}}); });
     when(&QNetworkReply::readyRead, [this] { TakeBody(); });
     when(&QNetworkReply::finished, [this] { Finish(); });
     QObject::connect(reply, &QNetworkReply::sslErrors, manager_.get(), [this, reply](const QList<QSslError>& errors) {
@@ -163,7 +163,7 @@ void HttpRequest::Finish() {
 void HttpRequest::End(HttpReply reply) {
     const std::shared_ptr<Exchange> ended = exchange_;
     Cancel();
-    ended->Progress({reply.Succeeded ? HttpProgress::Complete : HttpProgress::Error, std::move(reply)});
+    ended->Progress({reply.Succeeded ? HttpState::Complete : HttpState::Error, std::move(reply)});
 }
 
 void HttpRequest::Report(const HttpProgress& state) const {

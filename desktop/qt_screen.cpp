@@ -13,6 +13,7 @@
 #include "desktop/text.h"
 #include "desktop/window_place.h"
 #include "screen/forms.h"
+#include "weather/forms/station_chooser.h"
 
 namespace veraqua {
 
@@ -126,20 +127,6 @@ void QtScreen::StartGet(const std::string& url, std::function<void(const HttpPro
 
 void QtScreen::CancelGet() { request_.Cancel(); }
 
-HttpReply QtScreen::Get(const std::string& url, const std::function<void(std::string_view)>& state) {
-    HttpReply reply;
-    QEventLoop loop;
-    HttpRequest request;
-    state("Resolving IP/Connecting...");
-    request.Start(url, [&](const HttpProgress& progress) {
-        if (progress.State != HttpProgress::Error && progress.State != HttpProgress::Complete) return;
-        reply = progress.Reply;
-        loop.quit();
-    });
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return reply;
-}
-
 bool QtScreen::OpenDocument(const std::string& path) {
     const QFileInfo file(ToQt(path));
     return file.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
@@ -184,7 +171,7 @@ void QtScreen::EndProgress() {
     working_.invalidate();
 }
 
-void QtScreen::ChooseWeatherSource() { ShowModal(FormName::frmKESTA); }
+WeatherChoice QtScreen::ChooseWeatherSource(const DayRange& wanted) { return AskForWeatherSource(wanted); }
 
 void QtScreen::EndProgram() {
     for (const auto& [name, window] : windows_)

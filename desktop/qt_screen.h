@@ -40,9 +40,8 @@ class QtScreen : public Screen, public WindowEvents {
     void Tell(std::string_view text, std::string_view title = ProgramTitle, Icon icon = Icon::None) override;
     bool YesNo(std::string_view text, std::string_view title, Icon icon, bool noIsDefault) override;
     JulianValue Now() const override { return now_.value_or(ClockDate()); }
-    HttpReply Get(const std::string& url, const std::function<void(std::string_view)>& state) override;
     void Progress(std::string_view what, std::size_t done, std::size_t total) override;
-    void ChooseWeatherSource() override;
+    WeatherChoice ChooseWeatherSource(const DayRange& wanted) override;
     [[noreturn]] void EndProgram() override;
 
     /// The window of a form, made if it isn't yet.

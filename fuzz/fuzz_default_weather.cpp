@@ -20,9 +20,8 @@ constexpr int Year = 2003;
 constexpr std::array Stations{"02", "06", "04", "08", "20", "12", "99"};
 
 void WriteDays() {
-    State.WeatherNeedFrom = JulianFromDate(12, 28, Year - 1);
-    State.WeatherNeedTo = JulianFromDate(1, 20, Year);
-    if (!EndsWell([] { WriteDefaultWeather(); })) return;
+    const DayRange range{JulianFromDate(12, 28, Year - 1), JulianFromDate(1, 20, Year)};
+    if (!EndsWell([&range] { WriteDefaultWeather(range); })) return;
     const WeatherFile file(State.StationCode, Year);
     Require(file.Days() == 20, "days of default weather are missing");
     Require(EndsWell([&file] {

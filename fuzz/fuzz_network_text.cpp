@@ -37,29 +37,26 @@ void LookAtYear() {
     Require(EndsWell(look), "a day was imported that can't be read");
 }
 
-void Import(std::string_view text, JulianValue from, JulianValue to) {
+void Import(std::string_view text, const DayRange& range) {
     const WeatherCoefficients& weather = ShippedWeather();
     const MemoryDirectory directory;
     ScriptAsk user;
     user.OtherAnswer = true;
     State.StationCode = "06";
     State.WeatherCoeff = weather;
-    State.WeatherNeedFrom = from;
-    State.WeatherNeedTo = to;
     files::Write(WeatherFileName(State.StationCode, Year - 1), std::string(StoredBefore, '\0'));
     files::Write(NetworkTextName(Year - 1), std::string(EndOfYearBefore));
     files::Write(NetworkTextName(Year), std::string(text));
-    const bool oneYear = YearOf(from) == YearOf(to);
-    EndsWell([&] { ImportRange(user, WeatherCommand::Append, oneYear); });
+    EndsWell([&] { ImportRange(user, WeatherCommand::Append, range); });
     LookAtYear();
 }
 
 void TakeText(std::string_view bytes) {
     const std::string text = WithPlainLineEnds(bytes);
     Require(WithPlainLineEnds(text) == text, "plain line ends are made plain again");
-    Import(text, JulianFromDate(1, 1, Year), JulianFromDate(1, 8, Year));
-    Import(bytes, JulianFromDate(1, 3, Year), JulianFromDate(12, 31, Year));
-    Import(bytes, JulianFromDate(12, 29, Year - 1), JulianFromDate(1, 4, Year));
+    Import(text, {JulianFromDate(1, 1, Year), JulianFromDate(1, 8, Year)});
+    Import(bytes, {JulianFromDate(1, 3, Year), JulianFromDate(12, 31, Year)});
+    Import(bytes, {JulianFromDate(12, 29, Year - 1), JulianFromDate(1, 4, Year)});
 }
 
 }  // namespace

@@ -86,14 +86,13 @@ std::string TextOf(const MeasuredYear& year, JulianValue first, JulianValue last
     return text;
 }
 
-/// Imports `text` as that of the days from `WeatherNeedFrom` to `WeatherNeedTo`. A text of another station that waits
-/// under the same name stays.
-void ImportText(Ask& ask, std::string text) {
-    const std::string name = NetworkTextName(YearOf(State.WeatherNeedFrom));
+/// Imports `text` as that of the days `range`. A text of another station that waits under the same name stays.
+void ImportText(Ask& ask, const DayRange& range, std::string text) {
+    const std::string name = NetworkTextName(YearOf(range.From));
     const auto waiting = files::Read(name);
     files::Write(name, std::move(text));
     constexpr ImportWording nothingToTell{};
-    ImportWeather(ask, nothingToTell, true);
+    ImportWeather(ask, nothingToTell, range);
     if (waiting)
         files::Write(name, *waiting);
     else
@@ -101,13 +100,12 @@ void ImportText(Ask& ask, std::string text) {
 }
 
 void ImportYear(Ask& ask, int year) {
-    State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-    State.WeatherNeedTo = std::min(JulianFromDate(12, 31, year), State.TodayJulian - 1);
-    if (State.WeatherNeedTo < State.WeatherNeedFrom || WeatherFile(State.StationCode, year).Days() > 0) return;
-    ImportText(ask, TextOf(MeasuredYearOf(State.StationCode), State.WeatherNeedFrom, State.WeatherNeedTo));
+    DayRange range{JulianFromDate(1, 1, year), std::min(JulianFromDate(12, 31, year), State.TodayJulian - 1)};
+    if (range.To < range.From || WeatherFile(State.StationCode, year).Days() > 0) return;
+    ImportText(ask, range, TextOf(MeasuredYearOf(State.StationCode), range.From, range.To));
     // Where the last days weren't measured the text ends before them.
-    State.WeatherNeedFrom = LastWeatherJulian(State.StationCode, year) + 1;
-    if (State.WeatherNeedFrom <= State.WeatherNeedTo) WriteDefaultWeather();
+    range.From = LastWeatherJulian(State.StationCode, year) + 1;
+    if (range.From <= range.To) WriteDefaultWeather(range);
 }
 
 }  // namespace

@@ -27,10 +27,10 @@ void HeadlessScreen::StartGet(const std::string& url, std::function<void(const H
 }
 
 void HeadlessScreen::Carry(const std::string& url, const std::function<void(const HttpProgress&)>& progress) {
-    progress({HttpProgress::Resolving, {}});
-    const HttpReply reply = Get(url, [](std::string_view) {});
-    if (reply.Succeeded) progress({HttpProgress::Connected, {}});
-    progress({reply.Succeeded ? HttpProgress::Complete : HttpProgress::Error, reply});
+    progress({HttpState::Resolving, {}});
+    const HttpReply reply = Get(url);
+    if (reply.Succeeded) progress({HttpState::Connected, {}});
+    progress({reply.Succeeded ? HttpState::Complete : HttpState::Error, reply});
 }
 
 At& At::Type(std::string_view box, std::string_view text) {

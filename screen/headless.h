@@ -27,7 +27,10 @@ class HeadlessScreen : public Screen {
     void StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) override;
     void CancelGet() override { waiting_ = nullptr; }
     bool OpenDocument(const std::string&) override { return false; }
-    void ChooseWeatherSource() override { ShowModal(FormName::frmKESTA); }
+
+  protected:
+    /// What a request that a form has begun comes to; it returns when all is over.
+    virtual HttpReply Get(const std::string&) { return {false, 0, "There is no network here.", {}}; }
 
   private:
     static constexpr const char* NoPrinter = "There is no printer here.";

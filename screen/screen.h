@@ -7,6 +7,7 @@
 
 #include "core/ask.h"
 #include "core/base/failure.h"
+#include "core/http_reply.h"
 #include "core/shown/printed.h"
 #include "screen/form.h"
 
@@ -23,15 +24,11 @@ struct PrintOutcome {
     std::string Reason;
 };
 
-/// How a request to the weather network goes on, by the numbers that the form knows.
-struct HttpProgress {
-    static constexpr int Resolving = 1;
-    static constexpr int Connecting = 3;
-    static constexpr int Connected = 4;
-    static constexpr int Error = 11;
-    static constexpr int Complete = 12;
+/// How far a request to the weather network has come; each is later than those before it.
+enum class HttpState { Resolving, Connecting, Connected, Error, Complete };
 
-    int State = Resolving;
+struct HttpProgress {
+    HttpState State = HttpState::Resolving;
     HttpReply Reply;  ///< with Error and Complete
 };
 

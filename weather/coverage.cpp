@@ -26,8 +26,9 @@ JulianValue LastDayWithoutHole(int startYear, int thisYear) {
 }  // namespace
 
 Coverage FindCoverage(Ask& ask, int startYear) {
+    using enum Coverage::Kind;
     State.DownloadFailed = false;
-    if (!LoadWeatherCoefficients(ask, RegionOfStation(State.StationCode))) return Coverage::RegionMissing;
+    if (!LoadWeatherCoefficients(ask, RegionOfStation(State.StationCode))) return {};
 
     files::ChangeSet madeByLooking;
     const JulianValue last = LastDayWithoutHole(startYear, YearOf(ask.Now()));
@@ -35,16 +36,20 @@ Coverage FindCoverage(Ask& ask, int startYear) {
 
     State.ReportCancelled = false;
     const JulianValue yesterday = State.TodayJulian - 1;
-    if (last < 1) {
-        State.WeatherNeedFrom = JulianFromDate(1, 1, startYear);
-        State.WeatherNeedTo = yesterday;
-        return Coverage::WeatherNeeded;
+    Coverage coverage{WeatherNeeded, 0, {JulianFromDate(1, 1, startYear), yesterday}};
+    if (last >= 1) {
+        State.WeatherLastJulian = last;
+        if (last >= yesterday) return {Current, last, {}};
+        coverage.LastDay = last;
+        coverage.Needed.From = last + 1;
     }
-    State.WeatherLastJulian = last;
-    if (last >= yesterday) return Coverage::Current;
-    State.WeatherNeedFrom = last + 1;
-    State.WeatherNeedTo = yesterday;
-    return Coverage::WeatherNeeded;
+    WantWeather(coverage.Needed);
+    return coverage;
+}
+
+void WantWeather(const DayRange& range) {
+    State.WeatherNeedFrom = range.From;
+    State.WeatherNeedTo = range.To;
 }
 
 }  // namespace veraqua

@@ -87,31 +87,36 @@ std::string_view RegionOfStation(std::string_view stationCode) {
     return {};
 }
 
-bool LoadWeatherCoefficients(Ask& ask, std::string_view region) {
+std::optional<WeatherCoefficients> WeatherCoefficientsOf(std::string_view region) {
     const auto bytes = files::ReadExisting(DefaultWeatherFile);
     TextItems items(*bytes, DefaultWeatherFile);
     const int names = items.Integer16();
     const int notes = items.Integer16();
     for (int i = 0; i < names + notes; ++i) items.Text();
-    if (!SkipToRegion(items, region)) {
-        ask.Tell("Your default weather station was not found!", "Weather Error");
-        State.DownloadFailed = true;
-        return false;
-    }
+    if (!SkipToRegion(items, region)) return std::nullopt;
     items.Single();  // latitude and height of the place behind the region
     items.Single();
     WeatherCoefficients coefficients;
     for (auto& row : coefficients)
         for (float& coefficient : row) coefficient = items.Single();
-    State.WeatherCoeff = coefficients;
+    return coefficients;
+}
+
+bool LoadWeatherCoefficients(Ask& ask, std::string_view region) {
+    const std::optional<WeatherCoefficients> coefficients = WeatherCoefficientsOf(region);
+    if (!coefficients) {
+        ask.Tell("Your default weather station was not found!", "Weather Error");
+        State.DownloadFailed = true;
+        return false;
+    }
+    State.WeatherCoeff = *coefficients;
     return true;
 }
 
-void WriteDefaultWeather() {
+void WriteDefaultWeather(const DayRange& range) {
     files::ChangeSet changes;
-    DayInYear first = DayOfYearFromJulian(State.WeatherNeedFrom);
-    WeatherFile file(State.StationCode, first.Year);
-    for (JulianValue day = State.WeatherNeedFrom; day <= State.WeatherNeedTo; ++day) {
+    WeatherFile file(State.StationCode, YearOf(range.From));
+    for (JulianValue day = range.From; day <= range.To; ++day) {
         const DayInYear place = DayOfYearFromJulian(day);
         if (place.Year != file.Year()) {
             file.Save();

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "core/ask.h"
+#include "core/calendar.h"
 #include "core/records.h"
 
 /// Weather where none was measured: each member of a day is a three-harmonic Fourier series of the day of the year,
@@ -25,13 +27,16 @@ float DefaultDayNightRatio(const WeatherCoefficients& coefficients, int dayOfYea
 /// for a station of no region.
 std::string_view RegionOfStation(std::string_view stationCode);
 
-/// Loads `WeatherCoeff` with the first block of weathdef.dat whose header line holds `region`; without a region, with
-/// the first block. False if there is none, after the user has been told; `DownloadFailed` is true then, so that no
-/// field runs on foreign weather. RunTimeFailure if the file is short or a number doesn't parse.
+/// The first block of weathdef.dat whose header line holds `region`; without a region, the first block. Nothing if
+/// there is none. RunTimeFailure if the file is missing or short, or a number doesn't parse.
+std::optional<WeatherCoefficients> WeatherCoefficientsOf(std::string_view region);
+
+/// Loads `WeatherCoeff` with those of `region`. False if there are none, after the user has been told: no field may run
+/// on foreign weather then, and `DownloadFailed` is true.
 bool LoadWeatherCoefficients(Ask& ask, std::string_view region);
 
-/// Writes default weather from `WeatherNeedFrom` to `WeatherNeedTo` into the files of the station in work, over
-/// whatever stands there. Records past the range stay.
-void WriteDefaultWeather();
+/// Writes default weather for `range` into the files of the station in work, over whatever stands there. Records past
+/// the range stay; without a day in it, the file of its first year is made if there is none.
+void WriteDefaultWeather(const DayRange& range);
 
 }  // namespace veraqua

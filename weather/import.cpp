@@ -37,11 +37,11 @@ WeatherDay DayOf(const NetworkLine& line) {
 
 class Importer {
   public:
-    Importer(Ask& ask, const ImportWording& wording, bool oneYear)
+    Importer(Ask& ask, const ImportWording& wording, const DayRange& range)
         : ask_(ask),
           wording_(wording),
-          oneYear_(oneYear),
-          day_(State.WeatherNeedFrom),
+          range_(range),
+          day_(range.From),
           place_(DayOfYearFromJulian(day_)),
           file_(State.StationCode, place_.Year) {}
 
@@ -85,7 +85,6 @@ class Importer {
 
     bool Refuse(std::string_view why) {
         ask_.Tell(why, "Download Error");
-        State.DownloadFailed = true;
         return false;
     }
 
@@ -96,7 +95,7 @@ class Importer {
         if (line_->DayOfYear < place_.DayOfYear) {
             // The text has ended before the wanted day, or goes back: what follows its line is default weather, but
             // never a day before the wanted range.
-            const int firstWanted = State.WeatherNeedFrom - JulianFromDate(1, 1, place_.Year) + 1;
+            const int firstWanted = range_.From - JulianFromDate(1, 1, place_.Year) + 1;
             for (int dayOfYear = std::max(line_->DayOfYear + 1, firstWanted); dayOfYear <= place_.DayOfYear;
                  ++dayOfYear)
                 PutDefault(dayOfYear);
@@ -124,8 +123,8 @@ class Importer {
     bool NextDay() {
         ++day_;
         ++place_.DayOfYear;
-        if (day_ > State.WeatherNeedTo) return false;
-        if (oneYear_ || place_.DayOfYear <= DaysInYear(place_.Year)) return true;
+        if (day_ > range_.To) return false;
+        if (place_.DayOfYear <= DaysInYear(place_.Year)) return true;
         place_ = {1, place_.Year + 1};
         file_.Save();
         file_ = WeatherFile(State.StationCode, place_.Year);
@@ -149,7 +148,7 @@ class Importer {
 
     Ask& ask_;
     const ImportWording& wording_;
-    bool oneYear_;
+    DayRange range_;
     JulianValue day_;
     DayInYear place_;
     WeatherFile file_;
@@ -168,17 +167,15 @@ void TellTextMissing(Ask& ask, const ImportWording& wording, int year) {
     ask.Tell(fmt::format("Your KESTA data file for {}{}\nTry again or download Default Weather Data.", YearSuffix(year),
                          wording.NotDownloaded),
              wording.NotDownloadedTitle);
-    State.DownloadFailed = true;
 }
 
 void TellDownloadFailed(Ask& ask) {
     ask.Tell("No weather data was saved, try loading default data", "DOWNLOAD FAILED");
-    State.DownloadFailed = true;
 }
 
-ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, bool oneYear) {
+ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, const DayRange& range) {
     files::ChangeSet changes;
-    ImportOutcome outcome = Importer(ask, wording, oneYear).Run();
+    ImportOutcome outcome = Importer(ask, wording, range).Run();
     changes.Commit();
     return outcome;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/ask.h"
+#include "core/calendar.h"
 #include "core/records.h"
 
 /// The import of the network's text into the weather files of the station in work.
@@ -28,16 +29,14 @@ struct ImportOutcome {
     WeatherDay LastDay;                     ///< the last line looked at
 };
 
-/// Tells that the text of `year` is missing and sets `DownloadFailed`.
+/// Tells that the text of `year` is missing.
 void TellTextMissing(Ask& ask, const ImportWording& wording, int year);
 
-/// Tells that nothing could be taken and sets `DownloadFailed`.
+/// Tells that nothing could be taken.
 void TellDownloadFailed(Ask& ask);
 
-/// Imports the days from `WeatherNeedFrom` to `WeatherNeedTo` from the text of their year. Gaps of the text become
-/// default days; a day whose line lacks a value ends the import when it is the day wanted. What was written by then
-/// stays.
-///   oneYear  the range lies in one year and the text of another is never opened
-ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, bool oneYear);
+/// Imports the days of `range` from the text of their year. Gaps of the text become default days; a day whose line
+/// lacks a value ends the import when it is the day wanted. What was written by then stays.
+ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, const DayRange& range);
 
 }  // namespace veraqua

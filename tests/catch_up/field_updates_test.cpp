@@ -65,6 +65,16 @@ TEST_F(FieldUpdates, GoOnBehindAFieldThatFails) {
     for (const char* name : {"field1.dat", "field3.dat"}) EXPECT_EQ(Directory.Raw(name), before.at(name));
 }
 
+TEST_F(FieldUpdates, TellTheWorstOfAStationsFieldsWhateverFollowsIt) {
+    Directory.Delete("field3.dat");
+    EXPECT_EQ(UpdateFieldsForStation(User, "").Worst, UpdateStatus::Refused);
+    AField().Days(10).Efficiency(0).Content(10).StoreAt(1);
+    EXPECT_EQ(UpdateFieldsForStation(User, "").Worst, UpdateStatus::Failed);
+    State.Stat[5].LastDay = Tenth;
+    EXPECT_THAT(UpdateRows(User, {1, 3, 5}),
+                ElementsAre(UpdateStatus::Failed, UpdateStatus::Refused, UpdateStatus::Done));
+}
+
 TEST_F(FieldUpdates, ChangeNothingWhereTheDiskRefuses) {
     ASSERT_TRUE(SelectField(User, 5));
     const HayHeader header = State.Hay;

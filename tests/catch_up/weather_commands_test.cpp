@@ -15,24 +15,26 @@ using enum WeatherCommand;
 
 struct WeatherCommands : CatchUpTest {
     CommandReport Bring(WeatherCommand command, const std::string& text) {
-        return BringWeather(User, command, [&] {
-            StoreNetworkText(text);
-            State.DownloadFailed = false;
+        return BringWeather(User, command, [&](int year) {
+            StoreNetworkText(year, text);
+            return true;
         });
     }
 };
 
 TEST_F(WeatherCommands, EndYesterdayAndAskBeforeTheyOverwrite) {
     struct Range {
+        const char* Case;
         WeatherCommand Command;
         int Stored;  ///< days in the file before; day 195 is yesterday
         bool MayOverwrite;
         int From;  ///< first day brought in; 196: the user declined
     };
     for (const Range& range :
-         {Range{Append, 0, false, 1}, Range{Append, 194, false, 195}, Range{Append, 195, false, 196},
-          Range{Append, 195, true, 1}, Range{Overwrite, 195, false, 1}}) {
-        SCOPED_TRACE(testing::Message() << "to " << range.Stored << " from " << range.From);
+         {Range{"append to nothing", Append, 0, false, 1}, Range{"append a day", Append, 194, false, 195},
+          Range{"append, declined", Append, 195, false, 196}, Range{"append, confirmed", Append, 195, true, 1},
+          Range{"overwrite", Overwrite, 195, false, 1}}) {
+        SCOPED_TRACE(range.Case);
         AWeatherYear("06", 2003).Through(range.Stored).Every(AWeatherDay().From("old")).Store();
         State.WeatherNeedTo = 0;
         User.OtherAnswer = range.MayOverwrite;
@@ -72,6 +74,19 @@ TEST_F(WeatherCommands, RefuseAForeignTextEachInItsWords) {
                                               std::string("Wrong KESTA station downloaded.  Try again") + end));
         EXPECT_EQ(WeatherFile("06", 2003).Days(), 190);
     }
+}
+
+TEST_F(WeatherCommands, TellOnceThatNothingWasSaved) {
+    User.OtherAnswer = true;
+    EXPECT_EQ(Bring(Overwrite, "").Ending, CommandEnding::Failed);  // a text without a line
+    const auto failing = [](int year) { return year != 2003; };
+    const CommandReport report = BringWeather(User, Overwrite, failing);
+    EXPECT_EQ(report.Ending, CommandEnding::Failed);
+    EXPECT_EQ(report.Range, (DayRange{JulianFromDate(1, 1, 2003), Yesterday}));
+    EXPECT_TRUE(State.DownloadFailed);
+    const std::string said = "No weather data was saved, try loading default data";
+    EXPECT_THAT(User.Texts(), ElementsAre(said, said));
+    EXPECT_EQ(WeatherFile("06", 2003).Days(), 0);
 }
 
 TEST_F(WeatherCommands, NameDaysWithoutWindOnceAfterTheImport) {

@@ -83,6 +83,7 @@ TEST_F(Fetch, BringsAMeasuredYearInAndLetsTheFieldsCatchUp) {
     const std::string path = VERAQUA_TEST_DATA "/weather/0603rd.txt";
     LoopbackServer server(
         {{"/kesta/data/0603rd.txt", Ok(TextOf(path))}, {"/old/0603rd.txt", Moved("/kesta/data/0603rd.txt")}});
+    Directory.Put("network.txt", "http://127.0.0.1:1/");  // the option wins
     const std::string day = R"({"julian": 731716, "date": "2003-07-14"})";
     const Ran appended = FetchFrom(server.Url("/old"));
     EXPECT_EQ(appended.Out, R"({"from": )" + day + R"(, "to": )" + day + R"(, "last_day": )" + day +

@@ -14,6 +14,7 @@
 #include "screen/headless.h"
 #include "shell/first_start.h"
 #include "tests/screenshots/photo_screen.h"
+#include "weather/forms/download.h"
 
 namespace veraqua {
 namespace {
@@ -208,7 +209,7 @@ class Photographer {
         TakeWhenShown(FormName::frmKESTA);
         ShowModal(FormName::frmKESTA);
         TakeWhenShown(FormName::frmDownload);
-        ShowModal(FormName::frmDownload);
+        DownloadText(2025);
     }
 
     static constexpr int Hay = 0;

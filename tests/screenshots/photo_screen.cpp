@@ -40,7 +40,7 @@ void PhotoScreen::RunModal(FormTable& form) {
 }
 
 void PhotoScreen::StartGet(const std::string&, std::function<void(const HttpProgress&)> progress) {
-    progress({HttpProgress::Connected, {}});
+    progress({HttpState::Connected, {}});
 }
 
 void PhotoScreen::Take(FormName form, const std::string& folder, const std::string& name) {

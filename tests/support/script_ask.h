@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <functional>
-#include <map>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -39,15 +38,14 @@ class Scripted : public Outside {
 
     // The script
     JulianValue Today = JulianFromDate(7, 15, 2003);
-    std::deque<bool> Answers;                ///< to the questions to come, the next one first
-    bool OtherAnswer = false;                ///< when those have run out
-    std::map<std::string, HttpReply> Pages;  ///< by URL; any other is not found (404)
-    std::function<void()> WeatherSource;     ///< what the user does to bring weather in; nothing if empty
+    std::deque<bool> Answers;  ///< to the questions to come, the next one first
+    bool OtherAnswer = false;  ///< when those have run out
+    /// What the user does to bring weather in; leaves without a choice if empty.
+    std::function<WeatherChoice(const DayRange&)> WeatherSource;
 
     // The record
     std::vector<Message> Told;
     std::vector<Question> Asked;
-    std::vector<std::string> Fetched;  ///< URLs
     std::vector<ProgressStep> Steps;
     int WeatherSourceChosen = 0;  ///< how often the user was sent to bring weather in
 
@@ -73,19 +71,13 @@ class Scripted : public Outside {
 
     JulianValue Now() const override { return Today; }
 
-    HttpReply Get(const std::string& url, const std::function<void(std::string_view)>&) override {
-        Fetched.push_back(url);
-        const auto page = Pages.find(url);
-        return page != Pages.end() ? page->second : HttpReply{false, 404, "Not Found", ""};
-    }
-
     void Progress(std::string_view what, std::size_t done, std::size_t total) override {
         Steps.push_back({std::string(what), done, total});
     }
 
-    void ChooseWeatherSource() override {
+    WeatherChoice ChooseWeatherSource(const DayRange& wanted) override {
         ++WeatherSourceChosen;
-        if (WeatherSource) WeatherSource();
+        return WeatherSource ? WeatherSource(wanted) : WeatherChoice::Left;
     }
 
     [[noreturn]] void EndProgram() override { throw ProgramEnded{}; }

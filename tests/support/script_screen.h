@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +16,9 @@ namespace veraqua {
 /// What he does on a form that is shown to him alone stands in `WhenShown`.
 class ScriptScreen : public Scripted<HeadlessScreen> {
   public:
-    PrintOutcome Printer;  ///< what comes of printing
+    PrintOutcome Printer;                    ///< what comes of printing
+    std::map<std::string, HttpReply> Pages;  ///< of the network, by URL; any other is not found (404)
+    std::vector<std::string> Fetched;        ///< URLs
 
     std::vector<FormName> Presented;           ///< forms brought to the user, modal ones too
     std::vector<std::string> FocusedControls;  ///< "frmAddWater.txtRainDate"; with " (selected)" where its text was
@@ -39,9 +42,10 @@ class ScriptScreen : public Scripted<HeadlessScreen> {
     bool OpenDocument(const std::string& path) override { return OpenedDocuments.push_back(path), true; }
     void Failed(const RunTimeFailure& failure) override { Failures.emplace_back(failure.what()); }
     void SetNow(JulianValue day) override { Today = day; }
-    void ChooseWeatherSource() override {
-        ++WeatherSourceChosen;
-        WeatherSource ? WeatherSource() : ShowModal(FormName::frmKESTA);
+    HttpReply Get(const std::string& url) override {
+        Fetched.push_back(url);
+        const auto page = Pages.find(url);
+        return page != Pages.end() ? page->second : HttpReply{false, 404, "Not Found", ""};
     }
 
     /// "title: text" of the last message; empty if nothing was said.

@@ -18,17 +18,26 @@ TEST_F(CoverageTest, IsDecidedByTheFirstYearThatIsNotComplete) {
     Directory.Put("weathdef.dat", EmbeddedFile("weathdef.dat"));
     const JulianValue july15 = JulianFromDate(7, 15, 2003);  // day 196
     struct Row {
+        const char* Case;
         std::vector<std::pair<int, int>> Files;  ///< year and days in it
         int StartYear;
         JulianValue Last, Today;
     };
     for (const Row& row :
-         {Row{{}, 2003, JulianFromDate(12, 31, 2002), july15},
-          {{{2003, 195}}, 2003, JulianFromDate(7, 14, 2003), july15},
-          {{{2002, 365}}, 2002, JulianFromDate(12, 31, 2002), JulianFromDate(1, 1, 2003)},
-          {{{2001, 365}, {2002, 151}, {2003, 195}}, 2001, JulianFromDate(5, 31, 2002), july15},
-          {{{2000, 365}, {2001, 365}}, 2000, JulianFromDate(12, 30, 2000), july15}}) {  // of a leap year's 366
-        SCOPED_TRACE(testing::PrintToString(row.Files));
+         {Row{"no file", {}, 2003, JulianFromDate(12, 31, 2002), july15},
+          {"through yesterday", {{2003, 195}}, 2003, JulianFromDate(7, 14, 2003), july15},
+          {"a whole year, on the first day of the next",
+           {{2002, 365}},
+           2002,
+           JulianFromDate(12, 31, 2002),
+           JulianFromDate(1, 1, 2003)},
+          {"a hole in the year before",
+           {{2001, 365}, {2002, 151}, {2003, 195}},
+           2001,
+           JulianFromDate(5, 31, 2002),
+           july15},
+          {"365 days of a leap year", {{2000, 365}, {2001, 365}}, 2000, JulianFromDate(12, 30, 2000), july15}}) {
+        SCOPED_TRACE(row.Case);
         for (const std::string& name : files::Names())
             if (name != "weathdef.dat") Directory.Delete(name);
         Directory.Reopen();
@@ -38,7 +47,10 @@ TEST_F(CoverageTest, IsDecidedByTheFirstYearThatIsNotComplete) {
         State.StationCode = "06";
         User.Today = State.TodayJulian = row.Today;
         const bool isCurrent = row.Last >= row.Today - 1;
-        EXPECT_EQ(FindCoverage(User, row.StartYear), isCurrent ? Coverage::Current : Coverage::WeatherNeeded);
+        const Coverage coverage = FindCoverage(User, row.StartYear);
+        EXPECT_EQ(coverage.Reach, isCurrent ? Coverage::Kind::Current : Coverage::Kind::WeatherNeeded);
+        EXPECT_EQ(coverage.LastDay, row.Last);
+        EXPECT_EQ(coverage.Needed, isCurrent ? DayRange{} : (DayRange{row.Last + 1, row.Today - 1}));
         EXPECT_EQ(State.WeatherLastJulian, row.Last);
         EXPECT_TRUE(isCurrent || State.WeatherNeedFrom == row.Last + 1);
     }

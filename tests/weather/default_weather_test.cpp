@@ -1,7 +1,10 @@
 #include "weather/default_weather.h"
 
+#include <functional>
+#include <map>
 #include <string>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include "tests/support/builders.h"
@@ -21,6 +24,19 @@ TEST(HarmonicValue, AddsCosineAndSineOfEachHarmonicInTurn) {
     EXPECT_NEAR(HarmonicValue(coefficients, 3, 73), -4.794540, 1e-4);
     coefficients[3] = {0, 0, 1000, 0, 0, 0, 0};
     EXPECT_NEAR(HarmonicValue(coefficients, 3, 365), -0.00507, 1e-5);
+}
+
+// As the list of default-weather regions has them. Every other code has none.
+TEST(RegionOfStation, IsThatOfTheList) {
+    std::map<std::string, std::string, std::less<>> stations;
+    for (int code = 0; code < 100; ++code)
+        if (const auto region = RegionOfStation(fmt::format("{:02}", code)); !region.empty())
+            stations[std::string(region)] += fmt::format(" {}", code);
+    using testing::Pair;
+    EXPECT_THAT(stations,
+                testing::ElementsAre(Pair("BRESKIN", " 4 5 9 22 33"), Pair("DUNMER", " 8 23"), Pair("KALVIS", " 20"),
+                                     Pair("SORA VALLEY", " 2 3 14 24"), Pair("TELMORAN", " 1 6 7 10 11 13 16 19 26"),
+                                     Pair("TORV", " 12 15 21")));
 }
 
 using DefaultWeatherTest = DirectoryTest;
@@ -48,9 +64,7 @@ TEST_F(DefaultWeatherTest, FillsTheRangeOverTheTurnOfTheYearAndKeepsWhatFollowsI
     AWeatherYear("06", 2005).Through(8).Store();
     State.StationCode = "06";
     State.WeatherCoeff[7] = {4, 1, 0, 0, 0, 0, 0};  // reference evapotranspiration, mm
-    State.WeatherNeedFrom = JulianFromDayOfYear(361, 2004);
-    State.WeatherNeedTo = JulianFromDayOfYear(3, 2005);
-    WriteDefaultWeather();
+    WriteDefaultWeather({JulianFromDayOfYear(361, 2004), JulianFromDayOfYear(3, 2005)});
     const WeatherFile before("06", 2004);
     const WeatherFile after("06", 2005);
     EXPECT_EQ(before.Days(), 366);

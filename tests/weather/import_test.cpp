@@ -1,6 +1,7 @@
 #include "weather/import.h"
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "tests/support/builders.h"
@@ -24,11 +25,7 @@ struct ImportTest : DirectoryTest {
             State.WeatherCoeff[row][0] = static_cast<float>(row + 1);
     }
 
-    ImportOutcome Import(JulianValue from, JulianValue to) {
-        State.WeatherNeedFrom = from;
-        State.WeatherNeedTo = to;
-        return ImportWeather(User, Plainly, false);
-    }
+    ImportOutcome Import(JulianValue from, JulianValue to) { return ImportWeather(User, Plainly, {from, to}); }
 
     /// A letter for each day: m measured, old, d default, 9 with the mark of a missing value, . no record.
     static std::string Days(int year, int first, int last) {
@@ -51,24 +48,25 @@ struct ImportTest : DirectoryTest {
 
 TEST_F(ImportTest, FollowsTheTextAndFillsItsGaps) {
     struct Placing {
+        const char* Case;
         std::string Text;
         const char* Days;  ///< afterwards, from day 96 on
         int Stored = 99, From = 100, To = 104;
     };
     for (const Placing& p : std::vector<Placing>{
-             // A bad day ends the import; before the wanted days it doesn't count.
-             {NetworkDays(99, 101) + ANetworkLine(102).Bad() + NetworkDays(103, 110), "oooomm......"},
-             {ANetworkLine(99).Bad() + NetworkDays(100, 110), "oooommmmm..."},
-             // A gap is filled up to the next line, though it be bad or lie over the end of the range.
-             {ANetworkLine(100) + NetworkDays(102, 110), "oooomdmmm..."},
-             {ANetworkLine(100) + ANetworkLine(103).Bad() + NetworkDays(104, 110), "oooomdd9m..."},
-             {NetworkDays(100, 102) + NetworkDays(106, 110), "oooommmdddm."},
-             {NetworkDays(100, 103) + ANetworkLine(100), "oooomdddd..."},  // a line that goes back
-             // The text ends at a day that can't be.
-             {NetworkDays(99, 101) + ANetworkLine(102).Column(2, "?") + ANetworkLine(103), "oooommd....."},
-             {NetworkDays(1, 110), "oooommmmmooo", 150},
-             {NetworkDays(1, 110), "oddddmmmm...", 96, 101}}) {
-        SCOPED_TRACE(p.Text);
+             {"a bad day ends it", NetworkDays(99, 101) + ANetworkLine(102).Bad() + NetworkDays(103, 110),
+              "oooomm......"},
+             {"a bad day before the wanted ones", ANetworkLine(99).Bad() + NetworkDays(100, 110), "oooommmmm..."},
+             {"a gap", ANetworkLine(100) + NetworkDays(102, 110), "oooomdmmm..."},
+             {"a gap before a bad day", ANetworkLine(100) + ANetworkLine(103).Bad() + NetworkDays(104, 110),
+              "oooomdd9m..."},
+             {"a gap over the end of the range", NetworkDays(100, 102) + NetworkDays(106, 110), "oooommmdddm."},
+             {"a line that goes back", NetworkDays(100, 103) + ANetworkLine(100), "oooomdddd..."},
+             {"a day that can't be ends the text",
+              NetworkDays(99, 101) + ANetworkLine(102).Column(2, "?") + ANetworkLine(103), "oooommd....."},
+             {"days behind the range are stored", NetworkDays(1, 110), "oooommmmmooo", 150},
+             {"days before it are missing", NetworkDays(1, 110), "oddddmmmm...", 96, 101}}) {
+        SCOPED_TRACE(p.Case);
         StoreOld(p.Stored);
         Directory.Put("kesta.03", p.Text);
         EXPECT_TRUE(Import(DayOf2003(p.From), DayOf2003(p.To)).Imported);
@@ -104,12 +102,13 @@ TEST_F(ImportTest, GoesOnInTheTextOfTheNextYear) {
 }
 
 TEST_F(ImportTest, HoldsTheLinesUpToTheFirstWantedDayAgainstYearAndStation) {
-    using Refusals = std::vector<std::pair<std::string, std::string>>;
-    for (const auto& [first, refusal] : Refusals{{ANetworkLine(9).Year(" 03 "), ""},
-                                                 {ANetworkLine(9).Year("2002").Station("7"), "wrong year"},
-                                                 {ANetworkLine(9).Station(""), "wrong station"},
-                                                 {"<!DOCTYPE html>\n<html>\n", "wrong year"}}) {
-        SCOPED_TRACE(first);
+    using Refusals = std::vector<std::tuple<const char*, std::string, std::string>>;
+    for (const auto& [name, first, refusal] :
+         Refusals{{"a year of two digits", ANetworkLine(9).Year(" 03 "), ""},
+                  {"the year before the station", ANetworkLine(9).Year("2002").Station("7"), "wrong year"},
+                  {"no station", ANetworkLine(9).Station(""), "wrong station"},
+                  {"a page instead of a text", "<!DOCTYPE html>\n<html>\n", "wrong year"}}) {
+        SCOPED_TRACE(name);
         StoreOld(9);
         User.Told.clear();
         Directory.Put("kesta.03", first + NetworkDays(10, 12));
@@ -118,6 +117,26 @@ TEST_F(ImportTest, HoldsTheLinesUpToTheFirstWantedDayAgainstYearAndStation) {
         EXPECT_EQ(Days(2003, 9, 12), refused ? "o..." : "ommm");
         EXPECT_EQ(User.Texts(), std::vector<std::string>(refused ? 1 : 0, refusal));
     }
+}
+
+TEST_F(ImportTest, TakesNothingFromATextWithoutALine) {
+    const std::vector<std::string> nothingSaved{"No weather data was saved, try loading default data"};
+    for (const char* text : {"", "\n \r\n", "2003,no day,6,30\n"}) {
+        SCOPED_TRACE(text);
+        StoreOld(9);
+        User.Told.clear();
+        Directory.Put("kesta.03", text);
+        EXPECT_FALSE(Import(DayOf2003(10), DayOf2003(12)).Imported);
+        EXPECT_EQ(User.Texts(), nothingSaved);
+        EXPECT_EQ(Days(2003, 9, 12), "o...");
+    }
+    User.Told.clear();
+    StoreOld(363);
+    Directory.Put("kesta.03", NetworkDays(364, 365));
+    Directory.Put("kesta.04", "");
+    EXPECT_FALSE(Import(DayOf2003(364), DayOf2003(365 + 3)).Imported);
+    EXPECT_EQ(User.Texts(), nothingSaved);
+    EXPECT_EQ(Days(2003, 363, 366), "omm.");
 }
 
 }  // namespace

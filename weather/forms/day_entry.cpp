@@ -6,12 +6,13 @@
 
 #include <fmt/format.h>
 
+#include "catch_up/weather_commands.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "weather/default_weather.h"
+#include "weather/coverage.h"
 #include "weather/forms/day_rows.h"
 #include "weather/reference_et.h"
 #include "weather/weather_file.h"
@@ -50,11 +51,11 @@ JulianValue FirstEntryDay() { return JulianFromDate(1, 1, YearOf(TheScreen().Now
 
 /// The last real day becomes a default one too, and the days behind it through yesterday.
 void FillThroughYesterday() {
-    State.WeatherNeedFrom = State.WeatherLastJulian;
-    State.WeatherNeedTo = State.TodayJulian - 1;
-    WriteDefaultWeather();
-    // Else the next entry would fill from there again, over what has been entered by hand.
-    State.WeatherLastJulian = State.WeatherNeedTo;
+    const DayRange range{State.WeatherLastJulian, State.TodayJulian - 1};
+    WantWeather(range);
+    // The last day with weather rises with it: else the next entry would fill from there again, over what has been
+    // entered by hand.
+    BringDefaultWeather(range);
 }
 
 /// Brings the weather file up to yesterday before a day of it is entered.

@@ -1,9 +1,6 @@
 #include "weather/forms/download.h"
 
-#include <fmt/format.h>
-
 #include "catch_up/weather_commands.h"
-#include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 
@@ -13,7 +10,7 @@ namespace {
 
 /// The request is over, well or not: only OK is left to press.
 void Finish(frmDownload& form, bool succeeded) {
-    State.DownloadFailed = !succeeded;
+    form.Succeeded = succeeded;
     form.lblResult.Visible = succeeded;
     form.lblWarning.Visible = !succeeded;
     form.Label1.Visible = false;
@@ -25,7 +22,7 @@ void Finish(frmDownload& form, bool succeeded) {
 void TakeText(frmDownload& form, std::string_view body) {
     form.lblResult.Caption = "Copying data to weather file";
     try {
-        StoreNetworkText(body);
+        StoreNetworkText(form.Year, body);
     } catch (const RunTimeFailure& failure) {
         // The network's answer is no event of the form: nobody else would tell.
         Finish(form, false);
@@ -37,21 +34,20 @@ void TakeText(frmDownload& form, std::string_view body) {
 }
 
 void Follow(frmDownload& form, const HttpProgress& progress) {
-    if (progress.State <= HttpProgress::Connecting) form.lblResult.Caption = "Resolving IP/Connecting...";
-    if (progress.State == HttpProgress::Connected) form.lblResult.Caption = "Connected...";
-    if (progress.State == HttpProgress::Error) {
-        TheScreen().Tell(fmt::format("{}: {}", progress.Reply.Code, progress.Reply.Text), "Download Error");
+    if (progress.State <= HttpState::Connecting) form.lblResult.Caption = "Resolving IP/Connecting...";
+    if (progress.State == HttpState::Connected) form.lblResult.Caption = "Connected...";
+    if (progress.State == HttpState::Error) {
+        TellDownloadError(TheScreen(), progress.Reply);
         Finish(form, false);
     }
-    if (progress.State == HttpProgress::Complete) TakeText(form, progress.Reply.Body);
+    if (progress.State == HttpState::Complete) TakeText(form, progress.Reply.Body);
 }
 
 void Load(frmDownload& form) {
     form.lblWarning.Visible = false;
     form.cmd_OK.Enabled = false;
-    form.txtURL.Text = State.BaseUrl + NetworkFileName();
+    form.txtURL.Text = NetworkUrl(form.Year);
     form.txtURL.ReadOnly = true;
-    State.DownloadFailed = true;  // until it is here
     TheScreen().StartGet(form.txtURL.Text, [&form](const HttpProgress& progress) { Follow(form, progress); });
 }
 
@@ -60,7 +56,6 @@ void cmd_OK_Click(frmDownload&) { Unload(FormName::frmDownload); }
 void Cmd_Exit_Click(frmDownload&) {
     TheScreen().CancelGet();
     TheScreen().Tell("Your download has been cancelled", "DOWNLOAD ENDED");
-    State.DownloadFailed = true;
     Unload(FormName::frmDownload);
 }
 
@@ -77,7 +72,19 @@ FormTable TableOf(frmDownload& form) {
     table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);
     table.Add("Cmd_Exit", form.Cmd_Exit).Click(Cmd_Exit_Click).Exit();
     table.Load(Load).Close(Close);
-    return table.Done();
+    FormTable done = table.Done();
+    done.Reset = [&form] {
+        frmDownload fresh;
+        fresh.Year = form.Year;
+        form = fresh;
+    };
+    return done;
+}
+
+bool DownloadText(int year) {
+    The<frmDownload>().Year = year;
+    ShowModal(FormName::frmDownload);
+    return The<frmDownload>().Succeeded;
 }
 
 }  // namespace veraqua

@@ -4,8 +4,7 @@
 
 namespace veraqua {
 
-/// Fetches the text of the station in work and the year of `WeatherYearSuffix` from the weather network as soon as it
-/// is loaded. Afterwards `DownloadFailed` tells whether the text is here.
+/// Fetches the text of the station in work and of `Year` from the weather network as soon as it is loaded.
 struct frmDownload : Form {
     frmDownload() { Caption = "Download KESTA Data"; }
 
@@ -15,8 +14,15 @@ struct frmDownload : Form {
     Label lblWarning{"Either data is corrupt or Internet is down. Try loading default data!"};
     Button cmd_OK{"OK"};
     Button Cmd_Exit{"Cancel"};
+
+    int Year = 0;            ///< set before it is shown
+    bool Succeeded = false;  ///< the text is here
 };
 
 FormTable TableOf(frmDownload& form);
+
+/// Shows the window until the text of the station in work and `year` is here, which is true, or the user has seen why
+/// it isn't.
+bool DownloadText(int year);
 
 }  // namespace veraqua

@@ -4,10 +4,13 @@
 #include <string>
 
 #include "catch_up/weather_commands.h"
+#include "core/in_work.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "weather/forms/download.h"
 #include "weather/forms/station_list.h"
+#include "weather/forms/weather_menu.h"
 
 namespace veraqua {
 
@@ -21,94 +24,79 @@ Source SourceChosen(const frmKESTA& form) {
 }
 
 /// Download first; after one that failed, the default weather.
-void OfferSources(frmKESTA& form) {
-    form.Option[0].Chosen = !State.DownloadFailed;
-    form.Option[2].Chosen = State.DownloadFailed;
+void OfferSources(frmKESTA& form, bool downloadHasFailed) {
+    form.Option[0].Chosen = !downloadHasFailed;
+    form.Option[2].Chosen = downloadHasFailed;
 }
 
 void LeaveWithoutChoice(frmKESTA&) {
-    State.ReportCancelled = true;
     Unload(FormName::frmWeather);
-    State.DownloadFailed = true;
     Unload(FormName::frmKESTA);
 }
 
-/// False, with `DownloadFailed` set if it was the weather that failed, where no further year is to be brought in.
-bool BringYearFromNetwork(int year) {
+/// What has come of one year.
+enum class YearEnding {
+    Brought,
+    Declined,  ///< by the user: no further year is to be brought in
+    Failed,
+};
+
+YearEnding BringYearFromNetwork(const DayRange& range) {
+    const int year = YearOf(range.From);
     State.WeatherYearSuffix = YearSuffix(year);
-    ShowModal(FormName::frmDownload);
-    return !State.DownloadFailed && AppendForChooser(TheScreen()).Ending == CommandEnding::Done;
+    if (!DownloadText(year)) return YearEnding::Failed;
+    switch (ImportRange(TheScreen(), WeatherCommand::Append, range).Ending) {
+        case CommandEnding::Done: return YearEnding::Brought;
+        case CommandEnding::Failed: return YearEnding::Failed;
+        default: return YearEnding::Declined;
+    }
 }
 
 /// The weather screen writes the default weather and shows it, until the user has seen it.
-void BringYearByDefault() {
-    State.DownloadFailed = false;
-    ShowModal(FormName::frmWeather);
-    State.DownloadFailed = false;
+YearEnding BringYearByDefault(const DayRange& range) {
+    ShowDefaultWeather(range);
+    return YearEnding::Brought;
 }
 
-/// The station whose weather is needed, and its range, which the work takes in years. The range is whole again at the
-/// end; where a failure ends the work, the weather has not been obtained.
-class Need {
-  public:
-    Need() = default;
-    ~Need() {
-        State.WeatherNeedFrom = From;
-        State.WeatherNeedTo = To;
-        if (!done_) State.DownloadFailed = true;
-    }
-    Need(const Need&) = delete;
-    Need& operator=(const Need&) = delete;
-
-    void Done() { done_ = true; }
-
-    const std::string StationCode = State.StationCode;
-    const std::string StationName = State.StationName;
-    const JulianValue From = State.WeatherNeedFrom;
-    const JulianValue To = State.WeatherNeedTo;
-
-  private:
-    bool done_ = false;
-};
-
-/// Brings in one year after the other, until one fails or the user stops it.
-void BringYears(Source source) {
-    Need need;
-    const int lastYear = YearOf(need.To);
-    for (int year = YearOf(need.From); year <= lastYear; ++year) {
-        State.WeatherNeedFrom = std::max(need.From, JulianFromDate(1, 1, year));
-        State.WeatherNeedTo = std::min(need.To, JulianFromDate(12, 31, year));
+/// Brings in one year of `wanted` after the other, until one fails or the user stops it. False where one has failed.
+bool BringYears(Source source, const DayRange& wanted) {
+    const InWork before;
+    const int lastYear = YearOf(wanted.To);
+    for (int year = YearOf(wanted.From); year <= lastYear; ++year) {
         // On the weather screen the user may have picked another one.
-        if (!TakeUpStation(need.StationCode, need.StationName)) break;
-        if (source == Source::DefaultWeather)
-            BringYearByDefault();
-        else if (!BringYearFromNetwork(year))
-            break;
+        if (!TakeUpStation(before)) return false;
+        const DayRange ofYear{std::max(wanted.From, JulianFromDate(1, 1, year)),
+                              std::min(wanted.To, JulianFromDate(12, 31, year))};
+        const YearEnding ending =
+            source == Source::DefaultWeather ? BringYearByDefault(ofYear) : BringYearFromNetwork(ofYear);
+        if (ending != YearEnding::Brought) return ending == YearEnding::Declined;
     }
-    need.Done();
+    return true;
 }
 
-bool HasRange() {
-    if (State.WeatherNeedFrom == 0) TheScreen().Tell("StartDay = 0", "frmKESTA error");
-    if (State.WeatherNeedTo == 0) TheScreen().Tell("StopDay = 0", "frmKESTA error");
-    return State.WeatherNeedFrom != 0 && State.WeatherNeedTo != 0;
+bool HasRange(const DayRange& range) {
+    if (range.From == 0) TheScreen().Tell("StartDay = 0", "frmKESTA error");
+    if (range.To == 0) TheScreen().Tell("StopDay = 0", "frmKESTA error");
+    return range.From != 0 && range.To != 0;
 }
 
 void cmd_return_Click(frmKESTA& form) {
     State.CallerForm = "frmKESTA";
-    if (!HasRange()) return;
+    if (!HasRange(form.Wanted)) return;
     const Source source = SourceChosen(form);
     if (source == Source::None) return LeaveWithoutChoice(form);
     Hide(FormName::frmKESTA);
-    BringYears(source);
-    if (State.DownloadFailed)
-        OfferSources(form);  // the weather check shows this window again
-    else
+    form.Choice = WeatherChoice::Failed;  // also where the disk ends the work
+    if (BringYears(source, form.Wanted)) {
+        form.Choice = WeatherChoice::Taken;
         Unload(FormName::frmKESTA);
+    } else {
+        OfferSources(form, true);  // the weather check shows this window again
+    }
 }
 
 void Load(frmKESTA& form) {
-    OfferSources(form);
+    OfferSources(form, false);
     const std::string& code = State.StationCode;
     form.lbl_coldweather.Visible = code == "30" || code == "31" || code == "32";
 }
@@ -125,7 +113,20 @@ FormTable TableOf(frmKESTA& form) {
     table.Add("lbl_coldweather", form.lbl_coldweather);
     table.Add("cmd_return", form.cmd_return).Click(cmd_return_Click);
     table.Load(Load).Close(LeaveWithoutChoice);
-    return table.Done();
+    FormTable done = table.Done();
+    done.Reset = [&form] {
+        frmKESTA fresh;
+        fresh.Wanted = form.Wanted;
+        form = fresh;
+    };
+    return done;
+}
+
+WeatherChoice AskForWeatherSource(const DayRange& wanted) {
+    The<frmKESTA>().Wanted = wanted;
+    The<frmKESTA>().Choice = WeatherChoice::Left;
+    ShowModal(FormName::frmKESTA);
+    return The<frmKESTA>().Choice;
 }
 
 }  // namespace veraqua

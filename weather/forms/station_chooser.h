@@ -2,12 +2,12 @@
 
 #include <array>
 
+#include "core/ask.h"
 #include "screen/form.h"
 
 namespace veraqua {
 
-/// Lets the user bring the weather of the station in work up to date, from `WeatherNeedFrom` to `WeatherNeedTo`: by
-/// download, or by default weather. Left without a choice, `ReportCancelled` and `DownloadFailed` are true.
+/// Lets the user bring in the weather of the station in work for the days `Wanted`: by download, or by default weather.
 struct frmKESTA : Form {
     frmKESTA() { Caption = "Feed me weather data!"; }
 
@@ -18,8 +18,15 @@ struct frmKESTA : Form {
     Label lbl_coldweather{
         "CAUTION!  No historical defaults exist for Kelmar, Ostrand, or Vennick.  TELMORAN data will be used."};
     Button cmd_return{"OK"};
+
+    DayRange Wanted;                             ///< set before it is shown
+    WeatherChoice Choice = WeatherChoice::Left;  ///< how it has ended
 };
 
 FormTable TableOf(frmKESTA& form);
+
+/// Shows the window until the user has brought in the days `wanted`, or one of the years has failed, or they leave.
+/// After a failure it stays loaded, with what it offers next.
+WeatherChoice AskForWeatherSource(const DayRange& wanted);
 
 }  // namespace veraqua

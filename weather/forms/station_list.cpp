@@ -51,11 +51,10 @@ bool ChooseStation(ComboBox& list) {
     return LoadWeatherCoefficients(TheScreen(), RegionOfChosenStation(State.StationCode));
 }
 
-bool TakeUpStation(const std::string& code, const std::string& name) {
-    if (State.StationCode == code) return true;
-    State.StationCode = code;
-    State.StationName = name;
-    return LoadWeatherCoefficients(TheScreen(), RegionOfStation(code));
+bool TakeUpStation(const InWork& before) {
+    if (before.HasStation()) return true;
+    before.ReturnStation();
+    return LoadWeatherCoefficients(TheScreen(), RegionOfStation(State.StationCode));
 }
 
 void ShowStationOn(Form& form, StatusBar& bar) {

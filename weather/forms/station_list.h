@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
+#include "core/in_work.h"
 #include "screen/controls.h"
 #include "screen/form.h"
 
@@ -24,9 +24,9 @@ std::string_view RegionOfChosenStation(std::string_view stationCode);
 /// told, where nothing or an off-line station is selected, with the focus on the list, or where the region is missing.
 bool ChooseStation(ComboBox& list);
 
-/// Takes a station up again that was in work before, with its default weather as runs take it. False, after the user
-/// has been told, where its region is missing.
-bool TakeUpStation(const std::string& code, const std::string& name);
+/// Takes the station up again that was in work `before`, with its default weather as runs take it. False, after the
+/// user has been told, where its region is missing.
+bool TakeUpStation(const InWork& before);
 
 /// Titles a weather window and names the station on it, and the field in work if there is one.
 void ShowStationOn(Form& form, StatusBar& bar);

@@ -1,16 +1,19 @@
 #include "weather/forms/weather_menu.h"
 
-#include <algorithm>
 #include <initializer_list>
 
+#include "catch_up/weather_commands.h"
 #include "core/state.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "weather/coverage.h"
 #include "weather/default_weather.h"
 #include "weather/forms/day_entry.h"
 #include "weather/forms/day_rows.h"
+#include "weather/forms/download.h"
 #include "weather/forms/station_list.h"
+#include "weather/import.h"
 
 namespace veraqua {
 
@@ -21,14 +24,13 @@ constexpr std::string_view MainMenu = "frmVeraqua";
 
 bool ChooserHasCalled() { return State.CallerForm == Chooser; }
 
-/// Shows `day`, the last one written, and the range's last day above it.
-void ShowDay(frmWeather& form, const WeatherDay& day) {
+/// Shows `day`, the last one written, and above it `last`, the last of the range.
+void ShowDay(frmWeather& form, const WeatherDay& day, JulianValue last) {
     for (const DayRow row : AllDayRows) {
         form.lbl_d[IndexOf(row)].Caption = LabelOf(row, State.EnglishUnits);
         form.lbl_az[IndexOf(row)].Caption = TextOf(day, row, State.EnglishUnits, "0.0");
     }
-    form.lbl_info[0].Caption =
-        "Weather data for Station #" + State.StationCode + " on " + JulianToShortText(State.WeatherNeedTo);
+    form.lbl_info[0].Caption = "Weather data for Station #" + State.StationCode + " on " + JulianToShortText(last);
     ShowPanels(form);
 }
 
@@ -40,22 +42,31 @@ void LeaveFailed(frmWeather& form) {
         ClearPanels(form);
 }
 
-void ShowReport(frmWeather& form) {
-    const CommandReport& report = form.Report;
+void ShowReport(frmWeather& form, const CommandReport& report) {
     if (report.Ending == CommandEnding::StationMissing) mnu_KESTAloc_Click(form);
     if (report.Ending == CommandEnding::Failed) LeaveFailed(form);
     if (report.Ending != CommandEnding::Done) return;
-    ShowDay(form, report.LastDay);
+    ShowDay(form, report.LastLine, report.Range.To);
     form.StatusBar1.Panels[0] = report.Status;
     form.lblUpdate.Caption = report.FieldsUpdated;
     form.lblUpdate.Visible = report.CatchUp.has_value();
 }
 
+/// What the chooser has downloaded, or is here otherwise, for its own range: no question about it, and no catch-up.
+CommandReport ImportForChooser(const DayRange& wanted) {
+    if (WeatherCoefficientsOf(RegionOfChosenStation(State.StationCode)))
+        return ImportRange(TheScreen(), WeatherCommand::Append, wanted);
+    // The user has picked a station without default weather: its gaps must not be filled with a foreign one's.
+    TellDownloadFailed(TheScreen());
+    CommandReport report;
+    report.Ending = CommandEnding::Failed;
+    return report;
+}
+
 void BringFromNetwork(frmWeather& form, WeatherCommand command) {
     form.lblUpdate.Visible = false;
-    form.Report = ChooserHasCalled() ? AppendForChooser(TheScreen())
-                                     : BringWeather(TheScreen(), command, [] { ShowModal(FormName::frmDownload); });
-    ShowReport(form);
+    ShowReport(form,
+               ChooserHasCalled() ? ImportForChooser(form.Wanted) : BringWeather(TheScreen(), command, DownloadText));
 }
 
 void Load(frmWeather& form) {
@@ -63,7 +74,7 @@ void Load(frmWeather& form) {
     if (State.StationCode == NoStation) mnu_KESTAloc_Click(form);
     State.WeatherYearSuffix = YearSuffix(YearOf(TheScreen().Now()));
     ShowStationOn(form, form.StatusBar1);
-    // The chooser shows this window so that the user sees the default weather that it has let him take.
+    // The chooser shows this window so that the user sees the default weather that they take.
     if (ChooserHasCalled()) mnu_default_Click(form);
 }
 
@@ -126,7 +137,13 @@ FormTable TableOf(frmWeather& form) {
     table.Add("Cmd_Exit", form.Cmd_Exit).Click(Leave).Exit();
     table.Add("StatusBar1", form.StatusBar1);
     table.Load(Load).Close(Leave).Unload(Unloaded);
-    return table.Done();
+    FormTable done = table.Done();
+    done.Reset = [&form] {
+        frmWeather fresh;
+        fresh.Wanted = form.Wanted;
+        form = fresh;
+    };
+    return done;
 }
 
 void ClearPanels(frmWeather& form) {
@@ -154,8 +171,7 @@ void EnableMenus(frmWeather& form, bool enabled) {
 }
 
 bool HasStation(frmWeather& form) {
-    if (State.StationCode != NoStation) return true;
-    TheScreen().Tell("Please select your KESTA weather location first.");
+    if (LocationIsChosen(TheScreen())) return true;
     mnu_KESTAloc_Click(form);
     return false;
 }
@@ -176,19 +192,21 @@ void mnu_OverwriteWeather_Click(frmWeather& form) { BringFromNetwork(form, Weath
 void mnu_default_Click(frmWeather& form) {
     if (!HasStation(form)) return;
     ClearPanels(form);
-    const int year = YearOf(TheScreen().Now());
-    State.WeatherYearSuffix = YearSuffix(year);
+    DayRange range = form.Wanted;
     if (!ChooserHasCalled()) {
-        State.WeatherNeedFrom = JulianFromDate(1, 1, year);
-        State.WeatherNeedTo = State.TodayJulian - 1;
+        range = {JulianFromDate(1, 1, YearOf(TheScreen().Now())), State.TodayJulian - 1};
+        WantWeather(range);
     }
-    WriteDefaultWeather();
-    State.WeatherLastJulian = std::max(State.WeatherLastJulian, State.WeatherNeedTo);
+    BringDefaultWeather(range);
     if (ChooserHasCalled()) form.Cmd_Exit.Caption = "OK";
-    form.StatusBar1.Panels[0] = "Weather files updated with DEFAULT Data between " +
-                                JulianToShortText(State.WeatherNeedFrom) + " and " +
-                                JulianToShortText(State.WeatherNeedTo);
-    ShowDay(form, DefaultDay(State.WeatherCoeff, DayOfYearFromJulian(State.WeatherNeedTo).DayOfYear));
+    form.StatusBar1.Panels[0] = "Weather files updated with DEFAULT Data between " + JulianToShortText(range.From) +
+                                " and " + JulianToShortText(range.To);
+    ShowDay(form, DefaultDay(State.WeatherCoeff, DayOfYearFromJulian(range.To).DayOfYear), range.To);
+}
+
+void ShowDefaultWeather(const DayRange& wanted) {
+    The<frmWeather>().Wanted = wanted;
+    ShowModal(FormName::frmWeather);
 }
 
 }  // namespace veraqua

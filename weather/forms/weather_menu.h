@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "catch_up/weather_commands.h"
+#include "core/calendar.h"
 #include "core/records.h"
 #include "screen/form.h"
 
@@ -50,7 +50,7 @@ struct frmWeather : Form {
     MenuItem mnu_return{"<-GO BACK"};
 
     // What the screen remembers
-    CommandReport Report;      ///< of the last download
+    DayRange Wanted;           ///< by the station chooser, if it has called
     JulianValue EntryDay = 0;  ///< the day that is being entered
     WeatherDay Entered;        ///< its weather, as read
 };
@@ -74,6 +74,10 @@ void mnu_OverwriteWeather_Click(frmWeather& form);
 
 /// Writes default weather: for the range of the station chooser if it has called, else for this year through yesterday.
 void mnu_default_Click(frmWeather& form);
+
+/// Shows the window for the station chooser, with the default weather of the days `wanted` written, until the user has
+/// seen it.
+void ShowDefaultWeather(const DayRange& wanted);
 
 /// Whether a station is chosen; if not, the user is told and the list of stations opens. The downloads have words of
 /// their own for it.

@@ -73,7 +73,7 @@ std::optional<int> YearTyped(const frmViewWeather& form) {
     return year && *year >= 0 && *year <= 9999 ? std::optional<int>(*year) : std::nullopt;
 }
 
-/// The year that the user wants listed. Nothing, after he has been told, where there is no file of it.
+/// The year that the user wants listed. Nothing, after they have been told, where there is no file of it.
 std::optional<Listing> ListYear(const frmViewWeather& form, const Spacing& spacing) {
     const std::optional<int> year = YearTyped(form);
     if (!year || !files::Exists(WeatherFileName(State.StationCode, *year))) {

@@ -1,5 +1,7 @@
 #include "workbench/forms/field_choice.h"
 
+#include <optional>
+
 #include "catch_up/weather_check.h"
 #include "catch_up/weather_commands.h"
 #include "core/directory.h"
@@ -16,21 +18,20 @@ namespace veraqua {
 
 namespace {
 
-/// Makes `row` the field in work and checks the weather of its station. False, with none in work, if its file is
+/// Makes `row` the field in work and checks the weather of its station. Nothing, with none in work, if its file is
 /// missing, after the user has been told.
-bool TakeUp(int row) {
+std::optional<WeatherCheck> TakeUp(int row) {
     try {
         if (SelectField(TheScreen(), row)) {
             State.CallerForm = "frmField";
-            CheckWeather(TheScreen(), YearOf(State.Stat[row].LastDay));
-            return true;
+            return CheckWeather(TheScreen(), YearOf(State.Stat[row].LastDay));
         }
     } catch (const RunTimeFailure&) {
         State.CurrentField = 0;  // its header may be that of another field
         throw;
     }
     State.CurrentField = 0;
-    return false;
+    return std::nullopt;
 }
 
 void RunIfBehind() {
@@ -91,8 +92,9 @@ void ComboField_Click(frmField& form) {
         RestorePicked(form, picked->Data);
         return;
     }
-    if (!TakeUp(picked->Data)) return;
-    if (State.DownloadFailed) {
+    const std::optional<WeatherCheck> weather = TakeUp(picked->Data);
+    if (!weather) return;
+    if (*weather == WeatherCheck::Abandoned) {
         AbandonSelection(form);
         return;
     }

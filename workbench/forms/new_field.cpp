@@ -279,8 +279,7 @@ void cmd_OK_Click(frmLoadField& form) {
         return;
     State.Stat[State.CurrentField].FieldId = State.Header().FieldId;
     ShowOnWorkbench();
-    CheckWeather(TheScreen(), YearOf(plantDay));
-    if (State.DownloadFailed) {
+    if (CheckWeather(TheScreen(), YearOf(plantDay)) == WeatherCheck::Abandoned) {
         State.DownloadFailed = false;
         State.ReportCancelled = false;
         return;

@@ -10,6 +10,7 @@
 #include "tests/support/script_screen.h"
 #include "weather/default_weather.h"
 #include "weather/forms/forms.h"
+#include "weather/forms/station_chooser.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {
@@ -19,6 +20,7 @@ struct WeatherFormsTest : FormTest {
     static constexpr JulianValue Yesterday = JulianFromDate(7, 14, 2003);
 
     WeatherFormsTest() {
+        User.WeatherSource = AskForWeatherSource;
         AddWeatherForms();
         AddShellForms();
         Directory.Put("weathdef.dat", EmbeddedFile("weathdef.dat"));

@@ -61,11 +61,11 @@ TEST_F(WeatherMenu, ADownloadThatEndsBadlySavesNothing) {
 
 TEST_F(WeatherMenu, ACancelledDownloadIsSaidAndItsAnswerIsNotAwaited) {
     Serve("03", NetworkDays(1, 195));
-    State.WeatherYearSuffix = "03";
+    The<frmDownload>().Year = 2003;
     Show(FormName::frmDownload);
     At(FormName::frmDownload).Click("Cmd_Exit");
     EXPECT_EQ(User.LastSaid(), "DOWNLOAD ENDED: Your download has been cancelled");
-    EXPECT_TRUE(State.DownloadFailed && !IsLoaded(FormName::frmDownload));
+    EXPECT_FALSE(The<frmDownload>().Succeeded || IsLoaded(FormName::frmDownload));
 }
 
 TEST_F(WeatherMenu, TakesTheStationOfThePositionPicked) {
@@ -88,6 +88,7 @@ TEST_F(WeatherMenu, TakesTheStationOfThePositionPicked) {
         EXPECT_EQ(State.WeatherLastJulian, taken ? 0 : Yesterday);
         EXPECT_EQ(Form.ComboKESTA.Visible, !taken);
     }
+    EXPECT_EQ(State.WeatherCoeff, WeatherCoefficientsOf("SORA VALLEY"));  // runs and checks take another for 01
 }
 
 struct Chooser : WeatherFormsTest {
@@ -119,14 +120,9 @@ TEST_F(Chooser, ASecondYearThatFailsLeavesTheFirstAndTheWholeRange) {
     for (const bool foreignText : {false, true}) {
         if (foreignText) Serve("03", ANetworkLine(1).Station("8"));
         AWeatherYear("06", 2002).Through(363).Store();
-        State.WeatherNeedFrom = JulianFromDate(12, 30, 2002);
-        State.WeatherNeedTo = Yesterday;
-        State.DownloadFailed = false;
-        ShowModal(FormName::frmKESTA);
-        EXPECT_TRUE(State.DownloadFailed && !State.ReportCancelled);
+        EXPECT_EQ(AskForWeatherSource({JulianFromDate(12, 30, 2002), Yesterday}), WeatherChoice::Failed);
         EXPECT_TRUE(IsLoaded(FormName::frmKESTA) && The<frmKESTA>().Option[2].Chosen);
         EXPECT_EQ(SourceOf(364, 2002) + SourceOf(365, 2002) + SourceOf(1), "kestakesta");
-        EXPECT_TRUE(State.WeatherNeedFrom == JulianFromDate(12, 30, 2002) && State.WeatherNeedTo == Yesterday);
         Unload(FormName::frmKESTA);
     }
 }

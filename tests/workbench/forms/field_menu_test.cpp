@@ -36,7 +36,7 @@ TEST_F(FieldMenuTest, AFieldPickedIsShownAndRunOnlyIfItStandsBehindYesterday) {
 TEST_F(FieldMenuTest, AFieldWithoutItsWeatherOrItsFileIsNotSelected) {
     Plant(AField().Station("07"), 1);
     Plant(AField(), 2);
-    User.WeatherSource = [] { State.DownloadFailed = State.ReportCancelled = true; };
+    User.WeatherSource = [](const DayRange&) { return WeatherChoice::Left; };
     Select(0);
     EXPECT_EQ(State.CurrentField, 0);
     EXPECT_FALSE(State.DownloadFailed || State.ReportCancelled || Form.ComboField.Visible || Form.lbl_ID.Visible);

@@ -1,4 +1,5 @@
 #include "tests/workbench/forms/field_menu_fixture.h"
+#include "weather/forms/station_chooser.h"
 
 namespace veraqua {
 namespace {
@@ -62,7 +63,7 @@ TEST_F(NewFieldTest, ANewRootDepthCanBeRaisedAgainUpToTheCrops) {
 TEST_F(NewFieldTest, WithoutItsWeatherTheFieldWaitsForAnotherDateOrStation) {
     Begin();
     Describe().Pick("ComboKESTA", 6);
-    User.WeatherSource = [] { State.DownloadFailed = State.ReportCancelled = true; };
+    User.WeatherSource = [](const DayRange&) { return WeatherChoice::Left; };
     AtEntry().Click("cmd_OK");
     EXPECT_TRUE(FormOf(FormName::frmLoadField).Shown);
     EXPECT_FALSE(State.DownloadFailed || State.ReportCancelled || IsLoaded(FormName::frmCap));
@@ -74,6 +75,7 @@ TEST_F(NewFieldTest, WithoutItsWeatherTheFieldWaitsForAnotherDateOrStation) {
 TEST_F(NewFieldTest, ANewFieldComesThroughEveryFormToItsFirstPrediction) {
     Begin(Alfalfa);
     Describe("Creek side meadow").Pick("ComboKESTA", 7).Type("TxtPlantDate", "6/20/2003").Type("txtRootD", "36");
+    User.WeatherSource = AskForWeatherSource;
     User.WhenShown(FormName::frmKESTA, [] { At(FormName::frmKESTA).Click("Option(2)").Click("cmd_return"); });
     EnterSoil(FormName::frmCap, [](At& soil) {
         soil.Type("txtDepth", "12").Click("cmdDepth");
