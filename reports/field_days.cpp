@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <span>
 
-#include "core/state.h"
 #include "engine/curves.h"
 #include "engine/soil_water.h"
 
@@ -49,7 +48,11 @@ FieldDay StateOf(const FieldFile& file, std::size_t row) {
     return day;
 }
 
-JulianValue StateDay(const StatRecord& row) { return std::min(row.LastDay + 1, State.TodayJulian); }
+JulianValue StateDay(const StatRecord& row, JulianValue today) { return std::min(row.LastDay + 1, today); }
+
+FieldDay PresentDay(const FieldFile& file, const StatRecord& row, JulianValue today) {
+    return StateOf(file, AsOf(file, StateDay(row, today)).Row);
+}
 
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file) {
     const auto irrigation = Shown(file.Lists.Irrigation);

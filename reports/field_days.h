@@ -40,7 +40,10 @@ std::vector<FieldDay> DaysSincePlanting(const FieldFile& file);
 
 /// The day whose row shows the present state of the field with this row of the directory: the day after the last one
 /// with weather, but no later than today.
-JulianValue StateDay(const StatRecord& row);
+JulianValue StateDay(const StatRecord& row, JulianValue today);
+
+/// The day of `StateDay` in `file`, moved into its rows. RunTimeFailure as above.
+FieldDay PresentDay(const FieldFile& file, const StatRecord& row, JulianValue today);
 
 /// Quantities of a day in the units of the user.
 struct DayUnits {

@@ -2,8 +2,8 @@
 
 #include "core/state.h"
 #include "engine/season_run.h"
+#include "reports/change_line.h"
 #include "screen/screen.h"
-#include "workbench/change_line.h"
 
 namespace veraqua {
 
@@ -11,7 +11,7 @@ std::string RunAfterChange() {
     const StatRecord before = State.Stat[State.CurrentField];
     const RunOutcome outcome = UpdateField(TheScreen());
     if (outcome == RunOutcome::Done || outcome == RunOutcome::StoppedByUser)
-        return ChangeLine(before, State.Stat[State.CurrentField]);
+        return ChangeLine(before, State.Stat[State.CurrentField], State.EnglishUnits);
     return "The change is recorded, but the field was not run: its predictions are those from before.";
 }
 

@@ -12,11 +12,11 @@
 #include "core/state.h"
 #include "engine/season_run.h"
 #include "engine/soil_water.h"
+#include "reports/change_line.h"
 #include "reports/field_days.h"
 #include "reports/stored_field.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/change_line.h"
 #include "workbench/event_run.h"
 #include "workbench/forms/field_choice.h"
 
@@ -64,7 +64,7 @@ struct RootZoneNow {
 
 RootZoneNow LookAtRootZone(const FieldFile& file) {
     RootZoneNow zone;
-    zone.View = AsOf(file, StateDay(State.Stat[State.CurrentField]));
+    zone.View = AsOf(file, StateDay(State.Stat[State.CurrentField], State.TodayJulian));
     const DayRecord& day = file.Days[zone.View.Row];
     const float roots = file.IsHay ? file.Hay.RootMax : day.RootDepthOrKc;
     zone.Capacity = SoilWaterBetween(0, roots, CapacityGrid(file.Header(), file.Soil.Bounds), file.Soil.Capacity);
@@ -206,7 +206,7 @@ void cmd_Reset_Click(frmField& form) {
     UpdateField(TheScreen());
     changes.Commit();
     TheScreen().Tell("Depletion has been reset");
-    ShowChange(form, ChangeLine(before, State.Stat[State.CurrentField]));
+    ShowChange(form, ChangeLine(before, State.Stat[State.CurrentField], State.EnglishUnits));
 }
 
 }  // namespace veraqua

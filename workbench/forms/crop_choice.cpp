@@ -32,7 +32,7 @@ void SetEntryVisible(frmField& form, bool visible) {
 void mnuNew_Click(frmField& form) {
     const int row = LowestFreeRow();
     if (row == 0) {
-        TheScreen().Tell("Veraqua keeps at most 100 fields.");
+        TheScreen().Tell(NoFreeRowText);
         return;
     }
     SelectNothing(form);

@@ -137,7 +137,7 @@ std::optional<int> RestoreField(const std::string& backupName) {
     const FieldFile file = LoadBackup(backupName);
     const std::string id = file.Header().FieldId.Text();
     const int row = RowToRestore();
-    if (row == 0) return refuse("Veraqua keeps at most 100 fields.");
+    if (row == 0) return refuse(std::string(NoFreeRowText));
     if (IsIdInUse(file.Header().FieldId))
         return refuse("A field in use has the Field ID Code " + id + ". Harvest it before you restore this one.",
                       "Duplicate Field ID");
@@ -175,7 +175,7 @@ void mnuDelete_Click(frmField& form) {
 void mnuRestore_Click(frmField& form) {
     const std::vector<Backup> backups = FindBackups();
     if (backups.empty()) {
-        TheScreen().Tell("No deleted fields found on disk!", "Warning");
+        TheScreen().Tell(NoBackupsText, "Warning");
         return;
     }
     SelectNothing(form);
