@@ -93,7 +93,9 @@ void LeaveState(const FieldFile& file, const Season& season, JulianValue lastWea
 
 }  // namespace
 
-RunOutcome UpdateField(Ask& ask) {
+RunOutcome UpdateField(Ask& ask) { return UpdateField(ask, State.TodayJulian); }
+
+RunOutcome UpdateField(Ask& ask, JulianValue today) {
     const JulianValue dayAfterPlanting = State.Header().PlantDay + 1;
     if (State.WeatherLastJulian + 2 < dayAfterPlanting) {
         ask.Tell(
@@ -111,7 +113,7 @@ RunOutcome UpdateField(Ask& ask) {
     std::optional<FieldFile> file = ReadField(ask);
     if (!file) return RunOutcome::FieldFileMissing;
 
-    const SeasonStart start{firstWanted - 1, resetDay > 0, State.TodayJulian, State.Stat[State.CurrentField]};
+    const SeasonStart start{firstWanted - 1, resetDay > 0, today, State.Stat[State.CurrentField]};
     const JulianValue startDay = AsOf(*file, start.Day).Day;
     const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
     Season season = RunFile(*file, start, weather, ask);

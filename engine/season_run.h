@@ -20,6 +20,9 @@ enum class RunOutcome {
 /// file; nothing has changed then.
 RunOutcome UpdateField(Ask& ask);
 
+/// The same with `today` in the place of the state's.
+RunOutcome UpdateField(Ask& ask, JulianValue today);
+
 /// Makes the file of `CurrentField` with its first row, the planting day, from `Field` or `Hay` and the soil, and its
 /// row of the directory with a first depletion. RunTimeFailure if the soil has no capacity in the root zone.
 void CreateField(Ask& ask, const SoilProfile& soil);
