@@ -14,7 +14,7 @@ namespace veraqua {
 
 namespace {
 
-/// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on once he has.
+/// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on after that.
 void StartInDataDirectory() {
     if (!OpenDataDirectory(DefaultDataDirectories(), files::Access::Write)) ShowModal(FormName::frmPath);
     StartUp(TheScreen());
