@@ -9,6 +9,7 @@
 #include "core/base/units.h"
 #include "core/directory.h"
 #include "core/state.h"
+#include "reports/prediction_text.h"
 
 namespace veraqua {
 
@@ -38,16 +39,7 @@ double DegreeDays(float gdd) { return State.EnglishUnits ? static_cast<double>(g
 
 std::string Percent(double value) { return Plain(value) + "%"; }
 
-/// What the row says of the next irrigation.
-std::string NextWater(const StatRecord& row) {
-    switch (row.NextIrrAmount) {
-        case AmountNoDataYet: return "no data yet";
-        case AmountHarvest: return "harvest";
-        case AmountNotRequired: return "not required";
-        default: break;
-    }
-    return State.EnglishUnits ? Plain(HundredthsOfInches(row.NextIrrAmount)) + " in" : Plain(row.NextIrrAmount) + " mm";
-}
+std::string NextWater(const StatRecord& row) { return BriefPrediction(row, State.EnglishUnits); }
 
 std::string Line(std::string_view label, std::string_view value) { return fmt::format("{:<26}{}\n", label, value); }
 

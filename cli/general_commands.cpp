@@ -19,9 +19,7 @@ std::string CodeOf(std::size_t number) { return fmt::format("{:02}", number); }
 
 int RunInit(Session& session, bool sample) {
     const std::string path = session.DirectoryToMake();
-    files::MakeDirectory(path);
-    files::Open(path, files::Access::Write);
-    const InitOutcome outcome = MakeDataDirectory(session.Outside, sample);
+    const InitOutcome outcome = MakeDataDirectoryAt(session.Outside, path, sample);
     if (outcome.Refused) return ExitRefused;
     session.Print({{"data", path}, {"created", outcome.Created}},
                   outcome.Created.empty() ? fmt::format("{}: everything is there already.\n", path)

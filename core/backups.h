@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/field_file.h"
@@ -15,6 +16,9 @@ struct Backup {
 
     bool operator==(const Backup&) const = default;
 };
+
+/// What the user is told where there are none.
+constexpr std::string_view NoBackupsText = "No deleted fields found on disk!";
 
 /// All files of the data directory that bear a backup's name: 24 characters that end in ".dat". Sorted by name.
 std::vector<Backup> FindBackups();

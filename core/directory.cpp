@@ -170,6 +170,12 @@ void StartUp(const Ask& ask) {
     State.WeatherNeedTo = 0;
     State.DisplayDays = 12;
     State.TodayJulian = ask.Now();
+    const ApplicationState nothingInWork;
+    State.IsHay = nothingInWork.IsHay;
+    State.VariableSoil = nothingInWork.VariableSoil;
+    State.StationCode = nothingInWork.StationCode;
+    State.StationName = nothingInWork.StationName;
+    State.WeatherLastJulian = nothingInWork.WeatherLastJulian;
     StartDirectory();
     LoadStationNames();
 }

@@ -23,6 +23,9 @@ std::vector<int> RowsInUse();
 /// The lowest row that is free for a new field, or 0 when all are in use.
 int LowestFreeRow();
 
+/// What the user is told in that case.
+constexpr std::string_view NoFreeRowText = "Veraqua keeps at most 100 fields.";
+
 /// Reads stat.dat and updates.dat into `Stat` and `Updates` and clears the rows above those read. A missing updates.dat
 /// is made anew with zeros: it costs only the depletion dates. RunTimeFailure on a file that can't be true.
 void LoadFieldDirectory();
@@ -42,7 +45,7 @@ void WriteDirectory(const std::vector<int>& rows);
 void StartDirectory();
 
 /// All that happens when the program starts and the data directory is open: today, the units, the directory, the names
-/// of the weather stations. RunTimeFailure if weathdef.dat is short.
+/// of the weather stations; nothing is in work then. RunTimeFailure if weathdef.dat is short.
 void StartUp(const Ask& ask);
 
 /// Contents of new directory files of `rows` rows without fields.

@@ -70,7 +70,7 @@ std::optional<FieldInHand> TakeInHand(Ask& ask) {
     return FieldInHand{*std::move(file), State.Stat[row], State.Updates[row]};
 }
 
-FieldRun RunField(Ask& ask, FieldInHand& field) {
+FieldRun RunField(Ask& ask, FieldInHand& field, JulianValue today) {
     FieldFile& file = field.File;
     if (!WeatherReachesPlanting(ask, file.Header().PlantDay)) return {RunOutcome::NothingToUpdate, {}, 0};
     const bool wasReset = field.DepletionDay > 0;
@@ -78,7 +78,7 @@ FieldRun RunField(Ask& ask, FieldInHand& field) {
 
     files::ChangeSet weatherFiles;
     MakeWeatherFiles(YearOf(firstWanted));
-    const SeasonStart start{firstWanted - 1, wasReset, State.TodayJulian, field.Row};
+    const SeasonStart start{firstWanted - 1, wasReset, today, field.Row};
     const JulianValue startDay = AsOf(file, start.Day).Day;
     const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
     Season season = InFile(FieldFileName(State.CurrentField), [&] { return RunSeason(file, start, weather, ask); });
@@ -110,12 +110,14 @@ void LeaveInState(const FieldInHand& field, const FieldRun& run) {
     if (run.Outcome == RunOutcome::StoppedByUser) State.WeatherNeedFrom = -1;  // there is no range to be brought in
 }
 
-FieldRun UpdateField(Ask& ask) {
+FieldRun UpdateField(Ask& ask) { return UpdateField(ask, State.TodayJulian); }
+
+FieldRun UpdateField(Ask& ask, JulianValue today) {
     if (!WeatherReachesPlanting(ask, State.Header().PlantDay)) return {RunOutcome::NothingToUpdate, {}, 0};
     files::ChangeSet changes;
     std::optional<FieldInHand> field = TakeInHand(ask);
     if (!field) return {RunOutcome::FieldFileMissing, {}, 0};
-    FieldRun run = RunField(ask, *field);
+    FieldRun run = RunField(ask, *field, today);
     if (!run.HasRun()) return run;
     StoreField(ask, *field);
     changes.Commit();

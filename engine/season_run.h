@@ -45,7 +45,7 @@ FieldInHand NewField(const FieldFile& headerAndSoil);
 /// Runs the season of the field in work, `field`, on the weather through `WeatherLastJulian` and forecasts the rest on
 /// default weather. The loaded default weather must be that of the field's station. What the run has made is in
 /// `field`; only the weather files of the years that it looked into are made. RunTimeFailure on an arithmetic fault.
-FieldRun RunField(Ask& ask, FieldInHand& field);
+FieldRun RunField(Ask& ask, FieldInHand& field, JulianValue today);
 
 /// Writes the file and the directory row of the field in work.
 void StoreField(Ask& ask, const FieldInHand& field);
@@ -57,6 +57,9 @@ void LeaveInState(const FieldInHand& field, const FieldRun& run);
 /// Runs the season of `CurrentField` from its file to its file and row, as one set of changes. RunTimeFailure on an
 /// arithmetic fault or a damaged file; nothing has changed then.
 FieldRun UpdateField(Ask& ask);
+
+/// The same as of `today`.
+FieldRun UpdateField(Ask& ask, JulianValue today);
 
 /// Makes the file of `CurrentField` with its first row, the planting day, from `Field` or `Hay` and the soil, and its
 /// row of the directory with a first depletion. RunTimeFailure if the soil has no capacity in the root zone.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <span>
 
-#include "core/state.h"
 #include "engine/curves.h"
 #include "engine/soil_water.h"
 
@@ -47,6 +46,10 @@ FieldDay StateOf(const FieldFile& file, std::size_t row) {
     day.Kd = DrynessCoefficient(day.Available, day.Capacity);
     day.Depletion = (1 - static_cast<double>(day.Available) / day.Capacity) * 100;
     return day;
+}
+
+FieldDay PresentDay(const FieldFile& file, const StatRecord& row, JulianValue today) {
+    return StateOf(file, AsOf(file, StateDay(row, today)).Row);
 }
 
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file) {

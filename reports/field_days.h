@@ -38,6 +38,9 @@ FieldDay StateOf(const FieldFile& file, std::size_t row);
 /// be computed with, as with a root zone that holds no water.
 std::vector<FieldDay> DaysSincePlanting(const FieldFile& file);
 
+/// The day of `StateDay` in `file`, moved into its rows. RunTimeFailure as above.
+FieldDay PresentDay(const FieldFile& file, const StatRecord& row, JulianValue today);
+
 /// Quantities of a day in the units of the user.
 struct DayUnits {
     bool English = false;

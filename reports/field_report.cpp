@@ -24,15 +24,8 @@ std::string TotalText(double millimetres, bool english) {
     return english ? Masked(HundredthsOfInches(millimetres), "00.00") + " in" : Plain(millimetres) + " mm";
 }
 
-std::string NextIrrigation(const StatRecord& row, bool english) {
-    if (row.NextIrrAmount > 0)
-        return fmt::format("\t Next Irrigation Date & Amnt:\t{}, {}.", ReportDate(row.NextIrrDay),
-                           IrrigationAmount(row.NextIrrAmount, english));
-    return row.NextIrrAmount == AmountNoDataYet ? "\t No Data Yet!" : "\t Harvest as soon as possible!";
-}
-
 std::vector<std::string> PredictionLines(const FieldFile& file, const StatRecord& row, bool english) {
-    std::vector<std::string> lines{" PREDICTIONS:", NextIrrigation(row, english)};
+    std::vector<std::string> lines{" PREDICTIONS:", ReportedPrediction(row, english)};
     if (file.IsHay) {
         const auto& cuttings = file.Lists.Cuttings;
         const JulianValue growthOnset = cuttings.empty() ? file.Hay.PlantDay : cuttings.back().Day;
@@ -139,7 +132,7 @@ std::optional<std::string> FieldReportText(Ask& ask, int row) {
 }
 
 void SaveFieldReport(Ask& ask, const FieldReport& report) {
-    SaveReport(ask, "Your Field Report", "Field.txt", FieldReportText(report, State.TodayJulian));
+    SaveReport(ask, SavedFieldReport, FieldReportText(report, State.TodayJulian));
 }
 
 bool SaveFieldReport(Ask& ask, int row) {

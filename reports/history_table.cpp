@@ -4,6 +4,7 @@
 
 #include "core/base/numbers.h"
 #include "reports/field_days.h"
+#include "reports/printed_lines.h"
 #include "reports/report_text.h"
 
 namespace veraqua {
@@ -72,6 +73,17 @@ std::string LineOf(const std::vector<std::string>& cells) {
     return line;
 }
 
+std::vector<std::string> HeadingLines(bool isHay, bool english) {
+    std::vector<std::string> names;
+    std::vector<std::string> units;
+    for (const std::string& heading : PrintedHeadings(isHay, english)) {
+        const std::size_t blank = heading.find(' ');
+        names.push_back(heading.substr(0, blank));
+        units.push_back(blank == std::string::npos ? "" : heading.substr(heading.find_last_of(' ') + 1));
+    }
+    return {LineOf(names), LineOf(units), std::string(DateWidth + (Columns - 1) * CellWidth, '-')};
+}
+
 }  // namespace
 
 std::vector<std::string> HistoryHeadings(bool isHay, bool english) {
@@ -87,18 +99,15 @@ std::vector<std::string> HistoryLines(const FieldFile& file, bool english) {
     return lines;
 }
 
-std::vector<std::string> PrintedHistory(const std::vector<std::string>& lines, bool isHay, bool english) {
-    std::vector<std::string> names;
-    std::vector<std::string> units;
-    for (const std::string& heading : PrintedHeadings(isHay, english)) {
-        const std::size_t blank = heading.find(' ');
-        names.push_back(heading.substr(0, blank));
-        units.push_back(blank == std::string::npos ? "" : heading.substr(heading.find_last_of(' ') + 1));
-    }
-    std::vector<std::string> table{LineOf(names), LineOf(units),
-                                   std::string(DateWidth + (Columns - 1) * CellWidth, '-')};
+PrintedDocument PrintedHistory(const std::vector<std::string>& lines, std::string_view fieldId, std::string_view title,
+                               bool isHay, bool english) {
+    std::vector<std::string> table = HeadingLines(isHay, english);
     table.insert(table.end(), lines.begin(), lines.end());
-    return table;
+    PrintedDocument document;
+    document.Title = fmt::format("Field History {}", fieldId);
+    AddLines(document, TableFont, {"", " FIELD HISTORY", fmt::format(" {}", title), ""});
+    AddTable(document, TableFont, table, DayTableHeadings);
+    return document;
 }
 
 }  // namespace veraqua

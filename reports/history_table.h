@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/field_file.h"
+#include "core/shown/printed.h"
 
 /// The table of the field history, with a line for each day since planting. It has columns of its own widths and masks,
 /// and water in the soil in cm where the field report has mm.
@@ -16,7 +18,8 @@ std::vector<std::string> HistoryHeadings(bool isHay, bool english);
 /// can't be computed with.
 std::vector<std::string> HistoryLines(const FieldFile& file, bool english);
 
-/// The table as it is printed: two lines of headings, a rule, and `lines`.
-std::vector<std::string> PrintedHistory(const std::vector<std::string>& lines, bool isHay, bool english);
+/// The table as it is printed, headed by the field's `title`: two lines of headings, a rule, and `lines`.
+PrintedDocument PrintedHistory(const std::vector<std::string>& lines, std::string_view fieldId, std::string_view title,
+                               bool isHay, bool english);
 
 }  // namespace veraqua

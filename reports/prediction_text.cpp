@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
 #include "reports/report_text.h"
 
 namespace veraqua {
@@ -77,6 +78,10 @@ PredictionText WithCutting(const StatRecord& row, bool isHay, const Words& words
 
 }  // namespace
 
+std::string IrrigationAmount(int millimetres, bool english) {
+    return english ? Plain(HundredthsOfInches(millimetres)) + " inches" : Plain(millimetres) + " mm";
+}
+
 PredictionText WaterPrediction(const StatRecord& row, bool isHay, JulianValue today, JulianValue madExceeded,
                                bool english) {
     PredictionText text = WithCutting(row, isHay, AtWater, today, madExceeded, english);
@@ -97,7 +102,46 @@ PredictionText CutPrediction(const StatRecord& row, bool english) { return Undat
 
 PredictionText PlainPrediction(const StatRecord& row, bool english) { return Undated(row, Plainly, english); }
 
-std::string_view PrintedMark(std::int16_t mark) { return InPrint.Of(mark).Date; }
+std::string PrintedPrediction(const StatRecord& row, bool english) {
+    if (row.NextIrrAmount <= 0) return std::string(InPrint.Of(row.NextIrrAmount).Date);
+    return fmt::format("{} : {}", ReportDate(row.NextIrrDay),
+                       PrintedWater(HundredthsOfInches(row.NextIrrAmount), row.NextIrrAmount, english));
+}
+
+std::string ReportedPrediction(const StatRecord& row, bool english) {
+    if (row.NextIrrAmount > 0)
+        return fmt::format("\t Next Irrigation Date & Amnt:\t{}, {}.", ReportDate(row.NextIrrDay),
+                           IrrigationAmount(row.NextIrrAmount, english));
+    return fmt::format("\t {}", row.NextIrrAmount == AmountNoDataYet ? NoDataYet : HarvestAtOnce);
+}
+
+std::string MovedPrediction(const StatRecord& row) {
+    if (row.NextIrrAmount == AmountNotRequired) return "not required";
+    if (row.NextIrrAmount == AmountHarvest) return "harvest instead";
+    return ReportDate(row.NextIrrAmount == AmountNoDataYet ? 0 : row.NextIrrDay, UnknownDay);
+}
+
+std::string BriefPrediction(const StatRecord& row, bool english) {
+    switch (row.NextIrrAmount) {
+        case AmountNoDataYet: return "no data yet";
+        case AmountHarvest: return "harvest";
+        case AmountNotRequired: return "not required";
+        default: break;
+    }
+    return english ? Plain(HundredthsOfInches(row.NextIrrAmount)) + " in" : Plain(row.NextIrrAmount) + " mm";
+}
+
+std::string ListedPrediction(NextDeed deed, std::optional<int> daysLeft) {
+    switch (deed) {
+        case NextDeed::Harvest: return "Harvest";
+        case NextDeed::Nothing: return "No irrigation needed";
+        case NextDeed::Unknown: return "No data yet";
+        case NextDeed::Water: break;
+    }
+    if (!daysLeft) return "Over MAD";
+    if (*daysLeft == 0) return "Irrigate now";
+    return *daysLeft == 1 ? "Irrigate tomorrow" : fmt::format("Irrigate in {} days", *daysLeft);
+}
 
 std::string NextCutting(const StatRecord& row) { return ReportDate(row.NextCutDay, NoDataYet); }
 

@@ -1,16 +1,23 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "core/records.h"
 
-/// What the screens say of a field's next irrigation and cutting. Each has its own words for the marks that stand in
-/// `NextIrrAmount` where there is no amount.
+/// What is said of a field's next irrigation and cutting. Each screen, each report and the command line have their own
+/// words for the marks that stand in `NextIrrAmount` where there is no amount.
 namespace veraqua {
 
 /// Any real day is later: an earlier one, in a slot that a run may leave unset, is not known.
 constexpr JulianValue BeforeAnyRealDay = 730000;
+
+/// What is said of a day that isn't known.
+constexpr std::string_view UnknownDay = "not known";
+
+/// An amount of irrigation as the grower sets it: "1.69 inches", in hundredths, or "43 mm".
+std::string IrrigationAmount(int millimetres, bool english);
 
 /// How a screen backs what it says.
 enum class PredictionColour {
@@ -46,8 +53,24 @@ PredictionText CutPrediction(const StatRecord& row, bool english);
 /// Below the field history and in the saved schedule. A mark has no amount.
 PredictionText PlainPrediction(const StatRecord& row, bool english);
 
-/// What the printed schedule says of `mark`, a `NextIrrAmount` that is no amount.
-std::string_view PrintedMark(std::int16_t mark);
+/// In the printed schedule: day and amount, or the mark.
+std::string PrintedPrediction(const StatRecord& row, bool english);
+
+/// In the field report, a line with tabs.
+std::string ReportedPrediction(const StatRecord& row, bool english);
+
+/// In the line that tells what a change did: the day, or the mark.
+std::string MovedPrediction(const StatRecord& row);
+
+/// On the command line: the amount, or the mark.
+std::string BriefPrediction(const StatRecord& row, bool english);
+
+/// What a grower does next about a field.
+enum class NextDeed { Water, Nothing, Harvest, Unknown };
+
+/// In the Today list. `daysLeft` until the irrigation is 0 if it is due or overdue, and nothing where it isn't
+/// predicted.
+std::string ListedPrediction(NextDeed deed, std::optional<int> daysLeft);
 
 /// Day of the next cutting, or that there are no data yet.
 std::string NextCutting(const StatRecord& row);

@@ -113,10 +113,10 @@ std::optional<std::string> ReportPath(Ask& ask, std::string_view text, BareName 
     return (inDataDirectory ? directory : std::string()) + WithSlashes(text);
 }
 
-void SaveReport(Ask& ask, std::string_view what, std::string_view defaultName, std::string_view report) {
-    if (State.ReportFileName.empty()) State.ReportFileName = files::DirectoryPath() + std::string(defaultName);
-    files::WriteOutside(State.ReportFileName, report);
-    ask.Tell(fmt::format("{} was saved to: {}", what, State.ReportFileName), "File Saved");
+void SaveReport(Ask& ask, const SavedAs& report, std::string_view text) {
+    if (State.ReportFileName.empty()) State.ReportFileName = files::DirectoryPath() + std::string(report.DefaultName);
+    files::WriteOutside(State.ReportFileName, text);
+    ask.Tell(fmt::format("{} was saved to: {}", report.What, State.ReportFileName), "File Saved");
 }
 
 }  // namespace veraqua

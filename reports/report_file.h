@@ -17,9 +17,18 @@ enum class BareName { InDataDirectory, InWorkingDirectory };
 /// why.
 std::optional<std::string> ReportPath(Ask& ask, std::string_view text, BareName bare);
 
-/// Saves `report` to the path in `ReportFileName`, which becomes that of `defaultName` in the data directory where it
-/// is empty. An old file of that name is replaced. Then tells that `what`, such as "Your Field Report", was saved.
-/// A Refusal if the disk refuses; an old file is then as before.
-void SaveReport(Ask& ask, std::string_view what, std::string_view defaultName, std::string_view report);
+/// A kind of report that can be saved.
+struct SavedAs {
+    std::string_view What;         ///< how the user is told of it
+    std::string_view DefaultName;  ///< in the data directory
+};
+
+constexpr SavedAs SavedSchedule{"Your Irrigation Schedule", "Predict.txt"};
+constexpr SavedAs SavedFieldReport{"Your Field Report", "Field.txt"};
+
+/// Saves `text` to the path in `ReportFileName`, which becomes that of the default name where it is empty. An old file
+/// of that name is replaced. Then tells that the report was saved. A Refusal if the disk refuses; an old file is then
+/// as before.
+void SaveReport(Ask& ask, const SavedAs& report, std::string_view text);
 
 }  // namespace veraqua

@@ -8,8 +8,8 @@ std::string ReportDate(JulianValue day, std::string_view none) {
     return day == 0 ? std::string(none) : JulianToShortText(day);
 }
 
-std::string IrrigationAmount(int millimetres, bool english) {
-    return english ? Plain(HundredthsOfInches(millimetres)) + " inches" : Plain(millimetres) + " mm";
+std::string PrintedWater(double inches, int millimetres, bool english) {
+    return english ? Masked(inches, "00.00") + " in." : Masked(static_cast<double>(millimetres), "000.00") + " mm";
 }
 
 std::string WithoutTabs(std::string_view line) {

@@ -11,8 +11,8 @@ namespace veraqua {
 /// "mm-dd-yy", or `none` where the day isn't known.
 std::string ReportDate(JulianValue day, std::string_view none = {});
 
-/// An amount of irrigation as the grower sets it: "1.69 inches", in hundredths, or "43 mm".
-std::string IrrigationAmount(int millimetres, bool english);
+/// Water in the printed schedule: "01.69 in." of `inches`, or "043.00 mm".
+std::string PrintedWater(double inches, int millimetres, bool english);
 
 /// `line` with blanks for tabs, which reach to the next multiple of eight columns.
 std::string WithoutTabs(std::string_view line);

@@ -35,6 +35,6 @@ std::string ScheduleText(const Ask& ask) {
     return text;
 }
 
-void SaveSchedule(Ask& ask) { SaveReport(ask, "Your Irrigation Schedule", "Predict.txt", ScheduleText(ask)); }
+void SaveSchedule(Ask& ask) { SaveReport(ask, SavedSchedule, ScheduleText(ask)); }
 
 }  // namespace veraqua

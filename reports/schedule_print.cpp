@@ -21,8 +21,6 @@ namespace {
 
 /// What is to be done at a field stands on a line, and for hay on a second one.
 struct ScheduleEntry {
-    int Row = 0;
-    std::int16_t Depletion = 0;  ///< percent
     JulianValue SortKey = 0;
     std::vector<std::string> Lines;
 };
@@ -39,42 +37,31 @@ std::string Columns(std::string_view field, std::string_view crop, std::string_v
     return fmt::format("{:<16}{:<16}{:<28}{:<22}{}", field, crop, state, last, next);
 }
 
-/// In inches, or in `millimetres`.
-std::string AmountText(double inches, std::int16_t millimetres) {
-    return State.EnglishUnits ? Masked(inches, "00.00") + " in."
-                              : Masked(static_cast<double>(millimetres), "000.00") + " mm";
-}
-
-std::string LastIrrigation(const std::vector<EventRecord>& irrigation) {
+std::string LastIrrigation(const std::vector<EventRecord>& irrigation, bool english) {
     if (!(TotalAmount(irrigation) > 0)) return "";
     const EventRecord& last = irrigation.back();
-    return ReportDate(last.Day) + ": " + AmountText(last.Amount / MillimetresPerInch, last.Amount);
+    return fmt::format("{}: {}", ReportDate(last.Day),
+                       PrintedWater(last.Amount / MillimetresPerInch, last.Amount, english));
 }
 
-std::string NextIrrigation(const StatRecord& row) {
-    if (row.NextIrrAmount <= 0) return std::string(PrintedMark(row.NextIrrAmount));
-    return ReportDate(row.NextIrrDay) + " : " + AmountText(HundredthsOfInches(row.NextIrrAmount), row.NextIrrAmount);
-}
-
-ScheduleEntry EntryOf(int row, const FieldFile& file) {
-    const StatRecord& stat = State.Stat[row];
-    const FieldDay day = StateOf(file, AsOf(file, StateDay(stat, State.TodayJulian)).Row);
+ScheduleEntry EntryOf(const StatRecord& row, const FieldFile& file, JulianValue today, bool english) {
+    const FieldDay day = PresentDay(file, row, today);
     ScheduleEntry entry;
-    entry.Row = row;
-    entry.Depletion = ToInteger16(day.Depletion, "the depletion");
-    entry.SortKey = SortKeyOf(stat);
-    const JulianValue shown = std::min(stat.LastDay, State.TodayJulian);
-    entry.Lines = {Columns("  " + stat.FieldId.Whole(), stat.CropName.Whole(),
-                           fmt::format("      {}: {}%", ReportDate(shown), entry.Depletion),
-                           LastIrrigation(file.Lists.Irrigation), NextIrrigation(stat))};
-    if (file.IsHay) entry.Lines.push_back(Columns("", "", "", "", "Next cut: " + NextCutting(stat)));
+    entry.SortKey = SortKeyOf(row);
+    entry.Lines = {Columns("  " + row.FieldId.Whole(), row.CropName.Whole(),
+                           fmt::format("      {}: {}%", ReportDate(std::min(row.LastDay, today)),
+                                       ToInteger16(day.Depletion, "the depletion")),
+                           LastIrrigation(file.Lists.Irrigation, english), PrintedPrediction(row, english))};
+    if (file.IsHay) entry.Lines.push_back(Columns("", "", "", "", "Next cut: " + NextCutting(row)));
     return entry;
 }
 
 /// Fields of one day stay in the order of the directory.
 std::vector<ScheduleEntry> SortedEntries(Ask& ask) {
     std::vector<ScheduleEntry> entries;
-    ForEachStoredField(ask, [&](int row, const FieldFile& file) { entries.push_back(EntryOf(row, file)); });
+    ForEachStoredField(ask, [&](int row, const FieldFile& file) {
+        entries.push_back(EntryOf(State.Stat[row], file, State.TodayJulian, State.EnglishUnits));
+    });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const ScheduleEntry& a, const ScheduleEntry& b) { return a.SortKey < b.SortKey; });
     return entries;
@@ -92,10 +79,7 @@ PrintedDocument PrintedSchedule(Ask& ask) {
              {Columns("  FIELD ID     ", "CROP NAME", "      LAST WEATHER/DEPL. ", "LAST IRR.", "NEXT IRR."),
               "  " + std::string(104, '=')},
              2);
-    for (const ScheduleEntry& entry : SortedEntries(ask)) {
-        State.Stat[entry.Row].Depletion = entry.Depletion;
-        AddLines(document, TableFont, entry.Lines);
-    }
+    for (const ScheduleEntry& entry : SortedEntries(ask)) AddLines(document, TableFont, entry.Lines);
     AddLines(document, TableFont, {""});
     return document;
 }

@@ -7,7 +7,7 @@
 /// how much to irrigate next; what is to be done first stands first.
 namespace veraqua {
 
-/// The schedule of all fields, from their files. `Stat` takes the depletion that each line shows, in memory only. A
+/// The schedule of all fields, from their files, whose depletion is that of the present day and not that of the row. A
 /// field whose file is missing or damaged is left out, after the user has been told.
 PrintedDocument PrintedSchedule(Ask& ask);
 

@@ -25,15 +25,12 @@ namespace {
 /// Days that count as soon: so much notice a grower needs, and so late weather may come in.
 constexpr int SoonDays = 2;
 
-/// What a grower does about a field; the later ones stand lower in the list.
-enum class Deed { Water, Nothing, Harvest, Unknown };
-
 enum class Urgency { Now, Soon, Later };
 
 struct FieldToday {
     int Row = 0;  ///< of the directory
     StatRecord Stat;
-    Deed ToDo = Deed::Unknown;
+    NextDeed ToDo = NextDeed::Unknown;  ///< the later ones stand lower in the list
     Urgency Urge = Urgency::Later;
     bool HasDay = false;    ///< the next irrigation is predicted
     int DaysLeft = 0;       ///< until then, 0 if it is due or overdue
@@ -43,10 +40,10 @@ struct FieldToday {
 
 bool IsHay(const StatRecord& stat) { return stat.CropName.First() == HayMark; }
 
-Deed DeedOf(const StatRecord& stat) {
-    if (stat.NextIrrAmount == AmountHarvest) return Deed::Harvest;
-    if (stat.NextIrrAmount > 0 || DepletionWarning(stat.Depletion, stat.MadNow)) return Deed::Water;
-    return stat.NextIrrAmount == AmountNotRequired ? Deed::Nothing : Deed::Unknown;
+NextDeed DeedOf(const StatRecord& stat) {
+    if (stat.NextIrrAmount == AmountHarvest) return NextDeed::Harvest;
+    if (stat.NextIrrAmount > 0 || DepletionWarning(stat.Depletion, stat.MadNow)) return NextDeed::Water;
+    return stat.NextIrrAmount == AmountNotRequired ? NextDeed::Nothing : NextDeed::Unknown;
 }
 
 Urgency UrgencyOf(const FieldToday& field) {
@@ -61,7 +58,7 @@ Urgency UrgencyOf(const FieldToday& field) {
 int DaysBehind(const FieldToday& field, JulianValue setByHand) {
     const bool waitsForWater =
         setByHand >= field.Stat.LastDay && field.Stat.Depletion >= field.Stat.MadNow && field.HasDay;
-    if (waitsForWater || field.ToDo == Deed::Harvest) return 0;
+    if (waitsForWater || field.ToDo == NextDeed::Harvest) return 0;
     return std::max(State.TodayJulian - 1 - field.Known, 0);
 }
 
@@ -94,20 +91,12 @@ std::vector<FieldToday> FieldsToday() {
 }
 
 std::string WhatToDo(const FieldToday& field) {
-    switch (field.ToDo) {
-        case Deed::Harvest: return "Harvest";
-        case Deed::Nothing: return "No irrigation needed";
-        case Deed::Unknown: return "No data yet";
-        case Deed::Water: break;
-    }
-    if (!field.HasDay) return "Over MAD";
-    if (field.DaysLeft == 0) return "Irrigate now";
-    return field.DaysLeft == 1 ? "Irrigate tomorrow" : fmt::format("Irrigate in {} days", field.DaysLeft);
+    return ListedPrediction(field.ToDo, field.HasDay ? std::optional(field.DaysLeft) : std::nullopt);
 }
 
 /// Nothing is known of a field without data, so that nothing reassures either.
 std::optional<Colour> ColourOf(const FieldToday& field) {
-    if (field.ToDo == Deed::Unknown) return std::nullopt;
+    if (field.ToDo == NextDeed::Unknown) return std::nullopt;
     switch (field.Urge) {
         case Urgency::Now: return colours::PaleRed;
         case Urgency::Soon: return colours::PaleYellow;
@@ -235,7 +224,7 @@ std::string TodaySummary() {
     int thirsty = 0;
     int behind = 0;
     for (const FieldToday& field : fields) {
-        if (field.ToDo == Deed::Water && field.Urge == Urgency::Now) ++thirsty;
+        if (field.ToDo == NextDeed::Water && field.Urge == Urgency::Now) ++thirsty;
         behind = std::max(behind, field.DaysBehind);
     }
     std::string text = fmt::format("{} {}, {} {} water.", fields.size(), fields.size() == 1 ? "field" : "fields",

@@ -43,7 +43,7 @@ struct SamplePlanting {
     std::string_view Crop;    ///< as in crop.dat
     const SampleFarm* Farm = nullptr;
     MonthDay Planted;    ///< of hay the onset of growth
-    MonthDay Harvested;  ///< the last day on which the grower keeps it on his list
+    MonthDay Harvested;  ///< the last day on which it stands in the growers' list
     const SampleSoil* Soil = nullptr;
     int MAD = 0;         ///< percent
     int Efficiency = 0;  ///< of irrigation, percent

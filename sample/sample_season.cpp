@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <deque>
 #include <optional>
-#include <utility>
 
 #include <fmt/format.h>
 
@@ -86,10 +85,10 @@ SoilProfile SoilOf(const SamplePlanting& planting, HeaderCommon& header) {
     return profile;
 }
 
-/// Takes the weather of the station in work from the year of `plantDay` through the day before `today`.
-void TakeWeather(Ask& ask, JulianValue plantDay, JulianValue today) {
+/// Takes the weather of the station in work from the year of `plantDay` through the day before `asOf`.
+void TakeWeather(Ask& ask, JulianValue plantDay, JulianValue asOf) {
     FindCoverage(ask, YearOf(plantDay));
-    State.WeatherLastJulian = std::min(State.WeatherLastJulian, today - 1);
+    State.WeatherLastJulian = std::min(State.WeatherLastJulian, asOf - 1);
 }
 
 /// A field of the sample while it is being made.
@@ -98,9 +97,9 @@ struct SampleField {
     SampleGrower Grower;
 };
 
-/// Makes the field with its rain and lets the grower work it up to the day before `today`. Nothing if the default
+/// Makes the field with its rain and lets the grower work it up to the day before `asOf`. Nothing if the default
 /// weather of its station is missing; the user has been told.
-std::optional<SampleField> WorkedField(Ask& ask, const CropSeason& season, JulianValue today) {
+std::optional<SampleField> WorkedField(Ask& ask, const CropSeason& season, JulianValue asOf, JulianValue today) {
     const SamplePlanting& planting = *season.Planting;
     const int row = LowestFreeRow();
     State.CurrentField = static_cast<std::int16_t>(row);
@@ -109,26 +108,23 @@ std::optional<SampleField> WorkedField(Ask& ask, const CropSeason& season, Julia
     HeaderCommon& header = FillHeader(season);
     CreateField(ask, SoilOf(planting, header));
 
-    if (!ImportSampleWeather(ask, YearOf(season.PlantDay))) return std::nullopt;
-    TakeWeather(ask, season.PlantDay, today);
+    if (!ImportSampleWeather(ask, YearOf(season.PlantDay), today - 1)) return std::nullopt;
+    TakeWeather(ask, season.PlantDay, asOf);
     FieldFile file = LoadFieldFile(row);
-    file.Lists.Rain = SampleRain(State.StationCode, season.PlantDay + 1, today - 1);
-    const SeasonStart start{season.PlantDay, false, today, State.Stat[row]};
+    file.Lists.Rain = SampleRain(State.StationCode, season.PlantDay + 1, asOf - 1);
+    const SeasonStart start{season.PlantDay, false, asOf, State.Stat[row]};
     SampleField field{row, SampleGrower(ask, std::move(file), start, *planting.Farm)};
     field.Grower.Work();
     return field;
 }
 
-/// Writes what the grower did and runs the season as of `today`. False if the weather that was there before won't do;
+/// Writes what the grower did and runs the season as of that day. False if the weather that was there before won't do;
 /// the user has been told.
-bool BringUpToDate(Ask& ask, const SampleField& field, JulianValue today) {
+bool BringUpToDate(Ask& ask, const SampleField& field, JulianValue asOf) {
     StoreFieldFile(field.Row, field.Grower.File());
     SelectField(ask, field.Row);
-    TakeWeather(ask, State.Header().PlantDay, today);
-    const JulianValue realToday = std::exchange(State.TodayJulian, today);
-    const RunOutcome outcome = UpdateField(ask).Outcome;
-    State.TodayJulian = realToday;
-    return outcome == RunOutcome::Done;
+    TakeWeather(ask, State.Header().PlantDay, asOf);
+    return UpdateField(ask, asOf).Outcome == RunOutcome::Done;
 }
 
 /// One grower comes too late, unless a field stands over its MAD anyway.
@@ -140,9 +136,9 @@ void NeglectOne(std::deque<SampleField>& fields) {
 }
 
 /// The field that was harvested last: its file is a backup, its row is free again.
-bool MakeHarvested(Ask& ask) {
-    const CropSeason season = LastHarvest(State.TodayJulian);
-    const std::optional<SampleField> field = WorkedField(ask, season, season.HarvestDay);
+bool MakeHarvested(Ask& ask, JulianValue today) {
+    const CropSeason season = LastHarvest(today);
+    const std::optional<SampleField> field = WorkedField(ask, season, season.HarvestDay, today);
     if (!field || !BringUpToDate(ask, *field, season.HarvestDay)) return false;
     files::Rename(FieldFileName(field->Row), FreeBackupName(State.Header().FieldId, season.HarvestDay));
     State.Stat[field->Row] = {};
@@ -152,17 +148,16 @@ bool MakeHarvested(Ask& ask) {
 
 }  // namespace
 
-bool MakeSampleSeason(Ask& ask) {
-    if (!MakeHarvested(ask)) return false;
+bool MakeSampleSeason(Ask& ask, JulianValue today) {
+    if (!MakeHarvested(ask, today)) return false;
     std::deque<SampleField> fields;
-    for (const CropSeason& season : SeasonsInTheGround(State.TodayJulian)) {
-        std::optional<SampleField> field = WorkedField(ask, season, State.TodayJulian);
+    for (const CropSeason& season : SeasonsInTheGround(today)) {
+        std::optional<SampleField> field = WorkedField(ask, season, today, today);
         if (!field) return false;
         fields.push_back(std::move(*field));
     }
     NeglectOne(fields);
-    return std::ranges::all_of(
-        fields, [&ask](const SampleField& field) { return BringUpToDate(ask, field, State.TodayJulian); });
+    return std::ranges::all_of(fields, [&](const SampleField& field) { return BringUpToDate(ask, field, today); });
 }
 
 }  // namespace veraqua

@@ -13,6 +13,7 @@
 #include "data/embedded.h"
 #include "weather/default_weather.h"
 #include "weather/import.h"
+#include "weather/network_text.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {
@@ -31,30 +32,14 @@ constexpr std::array MeasuredYears{
     MeasuredYear{"15", 2022, "sample/1522rd.txt"},
 };
 
-constexpr std::size_t RainColumn = 12;
 constexpr double LeastRain = 1;  ///< mm; a gauge's reading below it isn't written down
 
-/// The text behind the first `count` commas of `line`.
-std::string_view BehindCommas(std::string_view line, std::size_t count) {
-    for (; count > 0; --count) line.remove_prefix(std::min(line.find(','), line.size() - 1) + 1);
-    return line;
-}
-
-std::string_view ColumnOf(std::string_view line, std::size_t column) {
-    const std::string_view rest = BehindCommas(line, column - 1);
-    return rest.substr(0, rest.find(','));
-}
-
-using Lines = std::map<int, std::string_view>;  ///< by day of the measured year
+using Lines = std::map<int, NetworkLine>;  ///< by day of the measured year
 
 Lines LinesOf(const MeasuredYear& year) {
     Lines lines;
-    std::string_view rest = EmbeddedFile(year.File);
-    while (!rest.empty()) {
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        lines[WholeNumber(ColumnOf(line, 2)).value_or(0)] = line;
-        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-    }
+    NetworkText text(EmbeddedFile(year.File), year.Year);
+    while (const auto line = text.Next()) lines[line->DayOfYear] = *line;
     return lines;
 }
 
@@ -64,25 +49,22 @@ const MeasuredYear& MeasuredYearOf(std::string_view station) {
     return *year;
 }
 
-/// The line that stands for `day`, or an empty one.
-std::string_view LineFor(const Lines& lines, const MeasuredYear& year, JulianValue day) {
+/// The line that stands for `day`, or null.
+const NetworkLine* LineFor(const Lines& lines, const MeasuredYear& year, JulianValue day) {
     const Date date = DateFromJulian(day);
-    if (date.Month == 2 && date.Day == 29) return {};
+    if (date.Month == 2 && date.Day == 29) return nullptr;
     const JulianValue measured = JulianFromDate(date.Month, date.Day, year.Year);
     const auto line = lines.find(DayOfYearFromJulian(measured).DayOfYear);
-    return line == lines.end() ? std::string_view{} : line->second;
+    return line == lines.end() ? nullptr : &line->second;
 }
 
 /// The network's text of `year`'s station from `first` to `last`, both of one year.
 std::string TextOf(const MeasuredYear& year, JulianValue first, JulianValue last) {
     const Lines lines = LinesOf(year);
     std::string text;
-    for (JulianValue day = first; day <= last; ++day) {
-        const std::string_view line = LineFor(lines, year, day);
-        if (line.empty()) continue;
-        const DayInYear place = DayOfYearFromJulian(day);
-        text += fmt::format("{},{},{}\n", place.Year, place.DayOfYear, BehindCommas(line, 2));
-    }
+    for (JulianValue day = first; day <= last; ++day)
+        if (const NetworkLine* line = LineFor(lines, year, day))
+            text += LineOfDay(line->Text, DayOfYearFromJulian(day)) + "\n";
     return text;
 }
 
@@ -99,8 +81,8 @@ void ImportText(Ask& ask, const DayRange& range, std::string text) {
         files::Remove(name);
 }
 
-void ImportYear(Ask& ask, int year) {
-    DayRange range{JulianFromDate(1, 1, year), std::min(JulianFromDate(12, 31, year), State.TodayJulian - 1)};
+void ImportYear(Ask& ask, int year, JulianValue last) {
+    DayRange range{JulianFromDate(1, 1, year), std::min(JulianFromDate(12, 31, year), last)};
     if (range.To < range.From || WeatherFile(State.StationCode, year).Days() > 0) return;
     ImportText(ask, range, TextOf(MeasuredYearOf(State.StationCode), range.From, range.To));
     // Where the last days weren't measured the text ends before them.
@@ -123,9 +105,9 @@ std::string StationsOfSample(std::string_view weathdef) {
     return marked;
 }
 
-bool ImportSampleWeather(Ask& ask, int firstYear) {
+bool ImportSampleWeather(Ask& ask, int firstYear, JulianValue last) {
     if (!LoadWeatherCoefficients(ask, RegionOfStation(State.StationCode))) return false;
-    for (int year = firstYear; year <= YearOf(State.TodayJulian); ++year) ImportYear(ask, year);
+    for (int year = firstYear; year <= YearOf(last + 1); ++year) ImportYear(ask, year, last);
     return true;
 }
 
@@ -134,8 +116,8 @@ std::vector<EventRecord> SampleRain(std::string_view stationCode, JulianValue fi
     const Lines lines = LinesOf(year);
     std::vector<EventRecord> rain;
     for (JulianValue day = first; day <= last; ++day) {
-        const std::string_view line = LineFor(lines, year, day);
-        const double measured = line.empty() ? 0 : Numeric(ColumnOf(line, RainColumn)).value_or(0);
+        const NetworkLine* line = LineFor(lines, year, day);
+        const float measured = line == nullptr ? 0 : line->Rain.value_or(0);
         if (measured >= LeastRain) rain.push_back({day, ToInteger16(measured, "the rain")});
     }
     return rain;

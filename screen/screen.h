@@ -80,6 +80,9 @@ void SelectText(const TextBox& box);
 /// The day typed into `box`, which shows it in long form then; 0, after the user has been told why, if it is none.
 JulianValue TypedDay(TextBox& box);
 
+/// How a form that has words of its own tells that it can't be printed.
+constexpr std::string_view CannotPrintForm = "The form can't be printed.";
+
 /// Prints `form`; on failure tells `failureText`, or the platform's reason where it is empty.
 void PrintForm(FormName form, std::string_view failureText = {});
 

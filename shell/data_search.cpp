@@ -1,15 +1,16 @@
 #include "shell/data_search.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "core/base/text.h"
-#include "core/files/files.h"
 #include "core/state.h"
 
 namespace veraqua {
 
 namespace {
 
+constexpr std::string_view ManualFile = "VERAGUIDE.doc";
 constexpr std::string_view NetworkFile = "network.txt";
 
 std::string Environment(const char* name) {
@@ -31,6 +32,21 @@ bool IsDataDirectory(const std::string& path) {
     const bool hasMarker = files::Exists(DataDirectoryMarker);
     files::Close();
     return hasMarker;
+}
+
+bool OpenDataDirectory(const std::vector<std::string>& candidates, files::Access access) {
+    const auto found = std::ranges::find_if(candidates, IsDataDirectory);
+    if (found == candidates.end()) return false;
+    files::Open(*found, access);
+    return true;
+}
+
+std::optional<std::string> ManualPath() {
+    const std::vector<std::string> names = files::Names();
+    const auto found =
+        std::ranges::find_if(names, [](const std::string& name) { return LowerCase(name) == LowerCase(ManualFile); });
+    if (found == names.end()) return std::nullopt;
+    return files::DirectoryPath() + *found;
 }
 
 std::string WithSlash(std::string url) {

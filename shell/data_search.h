@@ -1,10 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// Where the data directory is, and what its network.txt says.
+#include "core/files/files.h"
+
+/// Where the data directory is, and what the user finds or has put there.
 namespace veraqua {
 
 /// The file by which a data directory is known.
@@ -17,8 +20,14 @@ std::vector<std::string> DefaultDataDirectories();
 /// Whether `path` is a data directory. Looks without making anything, a lock neither; no data directory may be open.
 bool IsDataDirectory(const std::string& path);
 
+/// Opens the first of `candidates` that is a data directory. False if none is. RunTimeFailure as of `files::Open`.
+bool OpenDataDirectory(const std::vector<std::string>& candidates, files::Access access);
+
 /// `url` with a final "/".
 std::string WithSlash(std::string url);
+
+/// The path of the user's manual in the open data directory, in the spelling that it has on disk.
+std::optional<std::string> ManualPath();
 
 /// Takes `BaseUrl` from the first line of network.txt in the open data directory, if it has one.
 void TakeNetworkOfUser();

@@ -14,18 +14,6 @@ namespace veraqua {
 
 namespace {
 
-/// Puts the state back as it was: what is made on the way concerns the files alone.
-class StateRestorer {
-  public:
-    StateRestorer() = default;
-    ~StateRestorer() { State = before_; }
-    StateRestorer(const StateRestorer&) = delete;
-    StateRestorer& operator=(const StateRestorer&) = delete;
-
-  private:
-    ApplicationState before_ = State;
-};
-
 void WriteShippedFiles(bool sample) {
     for (const std::string_view name : EmbeddedNames()) {
         const bool isInFolder = name.find('/') != std::string_view::npos;
@@ -40,7 +28,7 @@ bool FillWithSample(Ask& ask) {
         ask.Tell("There are fields in this directory. The sample season needs one without fields.");
         return false;
     }
-    return MakeSampleSeason(ask);
+    return MakeSampleSeason(ask, State.TodayJulian);
 }
 
 std::vector<std::string> NewNames(const std::vector<std::string>& before) {
@@ -52,7 +40,6 @@ std::vector<std::string> NewNames(const std::vector<std::string>& before) {
 
 InitOutcome MakeFiles(Ask& ask, bool sample) {
     const std::vector<std::string> before = files::Names();
-    const StateRestorer restorer;
     files::ChangeSet changes;
     WriteShippedFiles(sample);
     StartUp(ask);
@@ -62,11 +49,37 @@ InitOutcome MakeFiles(Ask& ask, bool sample) {
     return outcome;
 }
 
+/// The directory, open until it is clear that nothing comes of it.
+class OpenedForMaking {
+  public:
+    explicit OpenedForMaking(const std::string& path) {
+        files::MakeDirectory(path);
+        files::Open(path, files::Access::Write);
+    }
+    ~OpenedForMaking() {
+        if (!kept_) files::Close();
+    }
+    OpenedForMaking(const OpenedForMaking&) = delete;
+    OpenedForMaking& operator=(const OpenedForMaking&) = delete;
+
+    void Keep() { kept_ = true; }
+
+  private:
+    bool kept_ = false;
+};
+
 }  // namespace
 
 InitOutcome MakeDataDirectory(Ask& ask, bool sample) {
     InitOutcome outcome = MakeFiles(ask, sample);
     if (!outcome.Refused) StartUp(ask);
+    return outcome;
+}
+
+InitOutcome MakeDataDirectoryAt(Ask& ask, const std::string& path, bool sample) {
+    OpenedForMaking directory(path);
+    InitOutcome outcome = MakeDataDirectory(ask, sample);
+    if (!outcome.Refused) directory.Keep();
     return outcome;
 }
 

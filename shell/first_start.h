@@ -17,4 +17,8 @@ struct InitOutcome {
 /// Files that are there stay. RunTimeFailure if one of them is damaged or the disk refuses; nothing has changed then.
 InitOutcome MakeDataDirectory(Ask& ask, bool sample);
 
+/// Makes `path`, and what is missing above it, such a directory and leaves it open; closed where it was refused or has
+/// failed.
+InitOutcome MakeDataDirectoryAt(Ask& ask, const std::string& path, bool sample);
+
 }  // namespace veraqua

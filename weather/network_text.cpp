@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include <fmt/format.h>
+
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/calendar.h"
@@ -20,6 +22,7 @@ constexpr std::size_t TempMinColumn = 5;
 constexpr std::size_t HumidityMaxColumn = 7;
 constexpr std::size_t HumidityMinColumn = 8;
 constexpr std::size_t RadiationColumn = 11;
+constexpr std::size_t RainColumn = 12;
 constexpr std::size_t WindColumn = 19;
 constexpr std::size_t PublishedETColumn = 24;  ///< only tested for a missing value
 constexpr std::size_t LastColumn = 28;
@@ -51,8 +54,10 @@ std::optional<float> Measurement(std::string_view column) {
     return static_cast<float>(*value);
 }
 
-NetworkLine LineOf(const Columns& columns, int daysInYear) {
+NetworkLine LineOf(std::string_view text, int daysInYear) {
+    const Columns columns = SplitLine(text);
     NetworkLine line;
+    line.Text = text;
     line.Year = columns[YearColumn];
     line.Station = WholeNumber(columns[StationColumn]);
     const int day = WholeNumber(columns[DayColumn]).value_or(0);
@@ -68,6 +73,7 @@ NetworkLine LineOf(const Columns& columns, int daysInYear) {
     line.HumidityMax = needed(HumidityMaxColumn);
     line.HumidityMin = needed(HumidityMinColumn);
     line.Radiation = needed(RadiationColumn);
+    line.Rain = Measurement(columns[RainColumn]);
     needed(PublishedETColumn);
     const std::optional<float> wind = Measurement(columns[WindColumn]);
     line.Wind = wind.value_or(MissingMeasurement);
@@ -81,9 +87,15 @@ NetworkLine LineOf(const Columns& columns, int daysInYear) {
 std::optional<NetworkLine> NetworkText::Next() {
     while (!rest_.empty()) {
         const std::string_view line = TakeLine(rest_);
-        if (!line.empty()) return LineOf(SplitLine(line), DaysInYear(year_));
+        if (!line.empty()) return LineOf(line, DaysInYear(year_));
     }
     return std::nullopt;
+}
+
+std::string LineOfDay(std::string_view text, const DayInYear& day) {
+    for (int column = 1; column < static_cast<int>(StationColumn); ++column)
+        text.remove_prefix(std::min(text.find(','), text.size() - 1) + 1);
+    return fmt::format("{},{},{}", day.Year, day.DayOfYear, text);
 }
 
 int CountLines(std::string_view bytes) {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/records.h"
+#include "core/calendar.h"
 
 /// The text that the weather network serves: a file per station and year, a line per day, fields separated by commas.
 namespace veraqua {
@@ -24,6 +24,7 @@ constexpr double LangleysPerMegajoule = 23.89;  ///< per square metre
 
 /// One line, as it stands.
 struct NetworkLine {
+    std::string_view Text;  ///< the whole line
     std::string_view Year;  ///< column 1 without blanks, not yet compared with anything
     int DayOfYear = 0;      ///< 0 if column 2 is no day of the year
     std::optional<int> Station;
@@ -31,9 +32,10 @@ struct NetworkLine {
     float TempMin = 0;
     float HumidityMax = 0;  ///< percent
     float HumidityMin = 0;
-    float Radiation = 0;  ///< MJ per square metre
-    float Wind = 0;       ///< m/s
-    bool Bad = false;     ///< a value that the day can't do without is missing
+    float Radiation = 0;        ///< MJ per square metre
+    float Wind = 0;             ///< m/s
+    std::optional<float> Rain;  ///< mm, column 12; the sample season's alone: growers read their own gauges
+    bool Bad = false;           ///< a value that the day can't do without is missing
     bool WindMissing =
         false;  ///< the wind bears the mark of a missing measurement, which alone doesn't make a line bad
 };
@@ -52,6 +54,9 @@ class NetworkText {
     std::string_view rest_;
     int year_;
 };
+
+/// The line `text` as that of another day: what stands behind its first two columns, year and day, is kept.
+std::string LineOfDay(std::string_view text, const DayInYear& day);
 
 /// Lines of the text that aren't empty.
 int CountLines(std::string_view bytes);

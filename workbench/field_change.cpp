@@ -14,7 +14,7 @@ std::optional<FieldChange> ChangeAndRun(Ask& ask, const std::function<bool(Field
     if (!field) return std::nullopt;
     const StatRecord before = field->Row;
     if (!change(*field)) return FieldChange{before, before, RunOutcome::Done, std::move(field->File), false};
-    const FieldRun run = RunField(ask, *field);
+    const FieldRun run = RunField(ask, *field, State.TodayJulian);
     StoreField(ask, *field);
     asOne.Commit();
     LeaveInState(*field, run);

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "core/ask.h"
+#include "core/directory.h"
 
 /// How a deed says that it was not done.
 namespace veraqua {
@@ -45,7 +46,7 @@ inline void Tell(Ask& ask, const Refused& refused) {
 }
 
 /// There is no row for one field more.
-inline Refused DirectoryIsFull() { return {"Veraqua keeps at most 100 fields."}; }
+inline Refused DirectoryIsFull() { return {std::string(NoFreeRowText)}; }
 
 /// What a deed has done, or why it was not done.
 template <class Done>

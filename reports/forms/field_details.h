@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "reports/field_details.h"
 #include "reports/forms/shown_text.h"
 #include "screen/form.h"
 
@@ -46,9 +47,9 @@ struct frmFieldDetails : Form {
     Label lblSoil{"Initial Soil Water Content:"};
     std::array<Label, 11> lblCont;
     Label lblRain{"Recent Rainfall:"};
-    std::array<Label, 10> lblRDate;
+    std::array<Label, LatestWaterShown> lblRDate;
     Label lblIrrigation{"Recent Irrigation:"};
-    std::array<Label, 10> lblIDate;
+    std::array<Label, LatestWaterShown> lblIDate;
     Button cmdPrint{"PRINT"};
     Button cmdExit{"<-GO BACK"};
     StatusBar StatusBar1;

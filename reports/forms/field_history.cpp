@@ -5,8 +5,8 @@
 #include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
+#include "reports/field_report_print.h"
 #include "reports/history_table.h"
-#include "reports/printed_lines.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -37,11 +37,8 @@ void FillHistory(FieldHistory& form) {
 }
 
 void PrintHistory(const FieldHistory& form, bool isHay) {
-    PrintedDocument document;
-    document.Title = "Field History " + form.txtID.Text;
-    AddLines(document, TableFont, {"", " FIELD HISTORY", " " + form.Caption, ""});
-    AddTable(document, TableFont, PrintedHistory(form.Lines, isHay, State.EnglishUnits), DayTableHeadings);
-    PrintDocument(document, "Field Histroy Report was sent to your default printer");
+    PrintDocument(PrintedHistory(form.Lines, form.txtID.Text, form.Caption, isHay, State.EnglishUnits),
+                  FieldReportSent);
 }
 
 template <class F, FormName Name>

@@ -2,9 +2,8 @@
 
 #include <fmt/format.h>
 
-#include "core/base/numbers.h"
 #include "core/state.h"
-#include "reports/report_text.h"
+#include "reports/field_summary.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -13,20 +12,16 @@ namespace veraqua {
 
 namespace {
 
-std::string Percent(double value) { return Masked(value, "0") + "%"; }
-
 void Load(frmFieldData& form) { form.lblPrinted.Visible = false; }
 
 void Fill(frmFieldData& form) {
     const StatRecord& row = State.Stat[State.CurrentField];
-    const FieldState state = StateInWork();
-    form.txtWeather.Text = state.Weather;
-    const bool behind = row.LastDay < State.TodayJulian - 1;
-    form.Label4.Caption =
-        fmt::format("Water Depletion as of  {}:", ReportDate(behind ? row.LastDay : State.TodayJulian));
-    form.txtDeplete.Text = state.Depletion;
-    form.txtMAD.Text = state.Mad;
-    form.txtEffic.Text = state.Efficiency;
+    const FieldSummary summary = SummaryOf(row, State.Header(), State.WeatherLastJulian, State.TodayJulian);
+    form.txtWeather.Text = summary.Weather;
+    form.Label4.Caption = summary.DepletionOf;
+    form.txtDeplete.Text = summary.Depletion;
+    form.txtMAD.Text = summary.Mad;
+    form.txtEffic.Text = summary.Efficiency;
     ShowPrediction(SummaryPrediction(row, State.TodayJulian, State.MadExceededDay, State.EnglishUnits), form.txtIrrDate,
                    form.txtIrrAmnt);
     ShowFieldIn(form.StatusBar1);
@@ -64,12 +59,6 @@ FormTable TableOf(frmFieldData& form) {
     table.Add("StatusBar1", form.StatusBar1);
     table.Load(Load).Fill(Fill).Close(cmdExit_Click);
     return table.Done();
-}
-
-FieldState StateInWork() {
-    const StatRecord& row = State.Stat[State.CurrentField];
-    return {ReportDate(State.WeatherLastJulian), Percent(row.Depletion), Percent(row.MadNow),
-            Percent(ToSingle(State.Header().IrrEff * 100.0, "the irrigation efficiency"))};
 }
 
 }  // namespace veraqua

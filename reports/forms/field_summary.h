@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "reports/forms/shown_text.h"
 #include "screen/form.h"
 
@@ -30,15 +28,5 @@ struct frmFieldData : Form {
 };
 
 FormTable TableOf(frmFieldData& form);
-
-/// What both the summary and the details say of the field in work.
-struct FieldState {
-    std::string Weather;  ///< last day with weather; empty where it isn't known
-    std::string Depletion;
-    std::string Mad;
-    std::string Efficiency;
-};
-
-FieldState StateInWork();
 
 }  // namespace veraqua

@@ -1,16 +1,12 @@
 #include "reports/forms/graphs.h"
 
 #include <algorithm>
-#include <functional>
+#include <string>
 
 #include <fmt/format.h>
 
 #include "core/base/numbers.h"
-#include "core/directory.h"
 #include "core/state.h"
-#include "reports/depletion_warning.h"
-#include "reports/field_days.h"
-#include "reports/stored_field.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 
@@ -18,50 +14,18 @@ namespace veraqua {
 
 namespace {
 
-JulianValue SortDateOf(const StatRecord& row) {
-    if (row.NextIrrAmount < 0) return HarvestDueDate;
-    return row.NextIrrAmount > 0 ? row.NextIrrDay : NoDataDate;
-}
-
-GraphRow GraphRowOf(int number, const FieldFile& file) {
-    StatRecord& row = State.Stat[number];
-    const FieldDay day = StateOf(file, AsOf(file, StateDay(row, State.TodayJulian)).Row);
-    row.Depletion = ToInteger16(day.Depletion, "Depletion");
-    return {static_cast<std::int16_t>(number),
-            row.FieldId.Text(),
-            row.CropName.Text(),
-            static_cast<float>(row.Depletion),
-            static_cast<float>(row.MadNow),
-            ToSingle(100.0 * day.Available / day.Capacity, "Water content"),
-            file.Header().PlantDay,
-            SortDateOf(row),
-            row.LastDay};
-}
-
-/// The rows of all fields that can be read.
-std::vector<GraphRow> GraphRows() {
-    std::vector<GraphRow> rows;
-    ForEachStoredField(TheScreen(), [&rows](int row, const FieldFile& file) { rows.push_back(GraphRowOf(row, file)); });
-    return rows;
-}
-
-void Colour(frmFieldGraph& panel, const GraphRow& row) {
-    const std::optional<veraqua::Colour> warning = DepletionWarning(row.Depletion, row.MadNow);
-    panel.Background = warning;
-    for (Label* label : {&panel.lbl_WaterContent, &panel.lbl_amount, &panel.lbl_MAD, &panel.lbl_depl})
-        label->Background = warning;
-}
-
 void Draw(frmFieldGraph& panel, const GraphRow& row) {
-    panel.Caption = fmt::format("{} -- ID: {}", row.CropName, row.FieldId);
-    const float value = row.WaterContent > 99 ? 100 : std::max(row.WaterContent, 0.0F);
-    panel.PBar.Value = value;
-    panel.lbl_WaterContent.Caption = Masked(value, "0.0") + "%";
-    panel.lbl_MAD.Caption = "MAD:  " + Masked(row.MadNow, "0.0") + "%";
-    panel.lbl_depl.Caption = "Depletion:  " + Masked(row.Depletion, "0.0") + "%";
+    const GraphPanel shown = PanelOf(row);
+    panel.Caption = shown.Caption;
+    panel.PBar.Value = shown.Value;
+    panel.lbl_WaterContent.Caption = shown.WaterContent;
+    panel.lbl_MAD.Caption = shown.Mad;
+    panel.lbl_depl.Caption = shown.Depletion;
     panel.lbl_k.Caption = std::to_string(row.Row);
     panel.lbl_k.Visible = false;
-    Colour(panel, row);
+    panel.Background = shown.Warning;
+    for (Label* label : {&panel.lbl_WaterContent, &panel.lbl_amount, &panel.lbl_MAD, &panel.lbl_depl})
+        label->Background = shown.Warning;
 }
 
 /// Shows the rows from `FirstShown` to `LastShown` in panels, which are made as they are needed.
@@ -86,15 +50,15 @@ void DrawFrom(frmGraphs& form, int first) {
     DrawAll(form);
 }
 
-void Sort(frmGraphs& form, std::string_view key) {
-    SortGraphRows(form.Rows, key);
+void Sort(frmGraphs& form, GraphOrder order) {
+    SortGraphRows(form.Rows, order);
     DrawFrom(form, form.FirstShown);
 }
 
-void m_plant_Click(frmGraphs& form) { Sort(form, "Date"); }
-void m_crop_Click(frmGraphs& form) { Sort(form, "Crop"); }
-void m_Field_Click(frmGraphs& form) { Sort(form, "Field"); }
-void m_irr_Click(frmGraphs& form) { Sort(form, "IrrDate"); }
+void m_plant_Click(frmGraphs& form) { Sort(form, GraphOrder::PlantDate); }
+void m_crop_Click(frmGraphs& form) { Sort(form, GraphOrder::CropName); }
+void m_Field_Click(frmGraphs& form) { Sort(form, GraphOrder::FieldId); }
+void m_irr_Click(frmGraphs& form) { Sort(form, GraphOrder::NextIrrDate); }
 
 void m_next12_Click(frmGraphs& form) {
     const int count = static_cast<int>(form.Rows.size());
@@ -123,31 +87,8 @@ void cmd_Select_Click(frmFieldGraph& panel) {
 
 }  // namespace
 
-void SortGraphRows(std::vector<GraphRow>& rows, std::string_view key) {
-    const auto later = [key](const GraphRow& a, const GraphRow& b) {
-        if (key == "Date") return a.PlantDate > b.PlantDate;
-        if (key == "Crop") return a.CropName > b.CropName;
-        if (key == "Field") return a.FieldId > b.FieldId;
-        return a.NextIrrDate > b.NextIrrDate;
-    };
-    const auto half = [](std::size_t whole) {
-        return static_cast<std::size_t>(RoundHalfEven(static_cast<double>(whole) / 2));
-    };
-    for (std::size_t gap = half(rows.size() + 1); gap >= 1; gap = half(gap)) {
-        bool swapped = true;
-        while (swapped) {
-            swapped = false;
-            for (std::size_t i = 0; i + gap < rows.size(); ++i) {
-                if (!later(rows[i], rows[i + gap])) continue;
-                std::swap(rows[i], rows[i + gap]);
-                swapped = true;
-            }
-        }
-    }
-}
-
 void ShowFieldDisplays() {
-    std::vector<GraphRow> rows = GraphRows();
+    std::vector<GraphRow> rows = GraphRows(TheScreen());
     if (rows.empty())
         return TheScreen().Tell("No fields to display, please Initialize a field before choosing this option");
     Show(FormName::frmGraphs);

@@ -1,32 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
-#include <string>
 #include <vector>
 
-#include "core/calendar.h"
+#include "reports/graph_rows.h"
 #include "screen/form.h"
 
 /// The bars of all fields at once: a panel for each with the water of its root zone.
 namespace veraqua {
-
-/// One field of the display.
-struct GraphRow {
-    std::int16_t Row = 0;  ///< of the directory
-    std::string FieldId;
-    std::string CropName;
-    float Depletion = 0;     ///< percent
-    float MadNow = 0;        ///< percent
-    float WaterContent = 0;  ///< water of the root zone, percent of what it holds
-    JulianValue PlantDate = 0;
-    JulianValue NextIrrDate = 0;  ///< or one of two marks that sort ahead of all days
-    JulianValue LastDate = 0;
-};
-
-/// `NextIrrDate` where harvest is due, and where there are no data.
-constexpr JulianValue HarvestDueDate = JulianFromDate(1, 1, 1901);
-constexpr JulianValue NoDataDate = JulianFromDate(2, 2, 1902);
 
 /// A panel.
 struct frmFieldGraph : Form {
@@ -58,10 +39,6 @@ struct frmGraphs : Form {
 };
 
 FormTable TableOf(frmGraphs& form);
-
-/// Orders `rows` by the key word "Date" (planting), "Crop", "Field" or "IrrDate", rising, by an exchange sort with a
-/// shrinking gap, which settles the order of equal keys.
-void SortGraphRows(std::vector<GraphRow>& rows, std::string_view key);
 
 /// Shows the bars of all fields and hides the workbench, or tells that there are none.
 void ShowFieldDisplays();

@@ -17,7 +17,7 @@ namespace {
 void Load(frmSelectHarvested& form) {
     form.Backups = FindBackups();
     if (form.Backups.empty()) {
-        TheScreen().Tell("No deleted fields found on disk!");
+        TheScreen().Tell(NoBackupsText);
         Unload(FormName::frmSelectHarvested);
         return;
     }

@@ -20,16 +20,21 @@ struct ReportKind {
 };
 
 constexpr std::array<ReportKind, 3> Kinds{{
-    {"Save Irrigation Schedule", "Predict.txt", false},
-    {"Save Field Report", "Field.txt", false},
-    {"Field Report of Harvested Field", "Field.txt", true},
+    {"Save Irrigation Schedule", SavedSchedule.DefaultName, false},
+    {"Save Field Report", SavedFieldReport.DefaultName, false},
+    {"Field Report of Harvested Field", SavedFieldReport.DefaultName, true},
 }};
 
 std::string& LastName(frmReportOptions& form) { return form.LastNames[static_cast<std::size_t>(form.Report)]; }
 
+void Choose(frmReportOptions& form, ReportDestination destination) {
+    form.Destination = destination;
+    State.ReportCancelled = destination == ReportDestination::None;
+}
+
 void Load(frmReportOptions& form) {
     const ReportKind& kind = Kinds[static_cast<std::size_t>(form.Report)];
-    State.ReportCancelled = true;
+    Choose(form, ReportDestination::None);
     form.Caption = kind.Title;
     form.cmd_print.Visible = kind.Printable;
     form.Txt_filename.Text =
@@ -37,9 +42,8 @@ void Load(frmReportOptions& form) {
 }
 
 /// The dialog ends with a choice.
-void Leave(frmReportOptions& form, bool toPrinter) {
-    form.ToPrinter = toPrinter;
-    State.ReportCancelled = false;
+void Leave(frmReportOptions& form, ReportDestination destination) {
+    Choose(form, destination);
     Unload(FormName::frmReportOptions);
 }
 
@@ -47,10 +51,10 @@ void cmd_OK_Click(frmReportOptions& form) {
     const std::optional<std::string> path = ReportPath(TheScreen(), form.Txt_filename.Text, BareName::InDataDirectory);
     if (!path) return;
     State.ReportFileName = LastName(form) = *path;
-    Leave(form, false);
+    Leave(form, ReportDestination::Disk);
 }
 
-void cmd_print_Click(frmReportOptions& form) { Leave(form, true); }
+void cmd_print_Click(frmReportOptions& form) { Leave(form, ReportDestination::Printer); }
 
 void cmd_cancel_Click(frmReportOptions&) { Unload(FormName::frmReportOptions); }
 
@@ -77,8 +81,7 @@ FormTable TableOf(frmReportOptions& form) {
 ReportDestination ChooseDestination(SavedReport report) {
     The<frmReportOptions>().Report = report;
     ShowModal(FormName::frmReportOptions);
-    if (State.ReportCancelled) return ReportDestination::None;
-    return The<frmReportOptions>().ToPrinter ? ReportDestination::Printer : ReportDestination::Disk;
+    return The<frmReportOptions>().Destination;
 }
 
 }  // namespace veraqua

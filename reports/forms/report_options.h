@@ -11,6 +11,8 @@ namespace veraqua {
 /// The reports that can be saved.
 enum class SavedReport { Schedule, Field, HarvestedField };
 
+enum class ReportDestination { None, Disk, Printer };
+
 struct frmReportOptions : Form {
     Label lbl_filename{"Enter Path and File Name"};
     TextBox Txt_filename;
@@ -19,17 +21,15 @@ struct frmReportOptions : Form {
     Button cmd_cancel{"CANCEL"};
 
     // What the dialog keeps when it is opened anew
-    SavedReport Report = SavedReport::Schedule;  ///< the one that it is opened for
-    std::array<std::string, 3> LastNames;        ///< path that each report was saved to; empty: none yet
-    bool ToPrinter = false;                      ///< how it was last left, if with a choice
+    SavedReport Report = SavedReport::Schedule;               ///< the one that it is opened for
+    std::array<std::string, 3> LastNames;                     ///< path that each report was saved to; empty: none yet
+    ReportDestination Destination = ReportDestination::None;  ///< how it was last left
 };
 
 FormTable TableOf(frmReportOptions& form);
 
-enum class ReportDestination { None, Disk, Printer };
-
-/// Lets the user choose. The file's path is then in `ReportFileName`. None, with `ReportCancelled` true, if he left the
-/// dialog.
+/// Lets the user choose. The file's path is then in `ReportFileName`. None, with `ReportCancelled` true, if they left
+/// the dialog.
 ReportDestination ChooseDestination(SavedReport report);
 
 }  // namespace veraqua

@@ -2,7 +2,6 @@
 
 #include "core/state.h"
 #include "reports/field_report_print.h"
-#include "reports/forms/report_options.h"
 #include "reports/schedule.h"
 #include "reports/schedule_print.h"
 #include "screen/screen.h"
@@ -28,21 +27,20 @@ void PrintSchedule() {
 }
 
 void PrintFieldReport(const FieldReport& report) {
-    PrintDocument(PrintedFieldReport(report, State.TodayJulian),
-                  "Field Histroy Report was sent to your default printer");
+    PrintDocument(PrintedFieldReport(report, State.TodayJulian), FieldReportSent);
 }
 
 void SaveScheduleByDialog() {
     if (ChooseDestination(SavedReport::Schedule) == ReportDestination::Disk) SaveSchedule(TheScreen());
 }
 
-void RunFieldReport(std::string_view destination) {
-    if (destination == "printer")
-        PrintFieldInWork();
-    else if (destination == "disk")
-        SaveFieldInWork();
-    else
-        TheScreen().Tell("Error - No choice to save or print report. Contact OLK.", "Error");
+void RunFieldReport(ReportDestination destination) {
+    switch (destination) {
+        case ReportDestination::Printer: return PrintFieldInWork();
+        case ReportDestination::Disk: return SaveFieldInWork();
+        case ReportDestination::None: break;
+    }
+    TheScreen().Tell("Error - No choice to save or print report. Contact OLK.", "Error");
 }
 
 }  // namespace veraqua

@@ -63,31 +63,9 @@ void cmd_OK_Click(frmPath& form) {
     Unload(FormName::frmPath);
 }
 
-/// Opens the default directory for as long as it is being made, and for good once it is.
-class DirectoryInTheMaking {
-  public:
-    DirectoryInTheMaking() {
-        const std::string path = DefaultDataDirectories().front();
-        files::MakeDirectory(path);
-        files::Open(path, files::Access::Write);
-    }
-    ~DirectoryInTheMaking() {
-        if (!made_) files::Close();
-    }
-    DirectoryInTheMaking(const DirectoryInTheMaking&) = delete;
-    DirectoryInTheMaking& operator=(const DirectoryInTheMaking&) = delete;
-
-    void Made() { made_ = true; }
-
-  private:
-    bool made_ = false;
-};
-
 void StartNew(bool sample) {
-    DirectoryInTheMaking directory;
-    if (MakeDataDirectory(TheScreen(), sample).Refused) return;
-    directory.Made();
-    Unload(FormName::frmPath);
+    const InitOutcome outcome = MakeDataDirectoryAt(TheScreen(), DefaultDataDirectories().front(), sample);
+    if (!outcome.Refused) Unload(FormName::frmPath);
 }
 
 void cmd_Sample_Click(frmPath&) { StartNew(true); }

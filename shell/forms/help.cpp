@@ -1,19 +1,17 @@
 #include "shell/forms/help.h"
 
-#include <algorithm>
+#include <optional>
+#include <string>
 #include <string_view>
 
-#include "core/base/text.h"
-#include "core/files/files.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "shell/data_search.h"
 
 namespace veraqua {
 
 namespace {
-
-constexpr std::string_view Manual = "VERAGUIDE.doc";
 
 constexpr std::string_view Instructions =
     "- CLICK on [Field Options] for all actions & reports relating to your crop fields.\n\n"
@@ -23,18 +21,12 @@ constexpr std::string_view Instructions =
     "- CLICK on EXIT if you are done using the program.\n\n"
     "- CLICK on [User's Manual] at the bottom of this screen for detailed instructions!";
 
-/// Opens the manual in the spelling that it has on disk. False where it is missing or nothing here can show it.
-bool OpenManual() {
-    const std::vector<std::string> names = files::Names();
-    const auto found =
-        std::ranges::find_if(names, [](const std::string& name) { return LowerCase(name) == LowerCase(Manual); });
-    return found != names.end() && TheScreen().OpenDocument(files::DirectoryPath() + *found);
-}
-
 void Load(frmHelp& form) { form.rtbVersion1.Text = State.VersionString; }
 
 void cmd_manual_Click(frmHelp&) {
-    if (!OpenManual()) TheScreen().Tell("Can't find VERAQUA USER'S MANUAL", "VERAQUA ERROR");
+    const std::optional<std::string> manual = ManualPath();
+    if (!manual || !TheScreen().OpenDocument(*manual))
+        TheScreen().Tell("Can't find VERAQUA USER'S MANUAL", "VERAQUA ERROR");
 }
 
 void cmdPrint_Click(frmHelp&) { PrintForm(FormName::frmHelp); }

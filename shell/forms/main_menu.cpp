@@ -14,18 +14,9 @@ namespace veraqua {
 
 namespace {
 
-void OpenDefaultDataDirectory() {
-    for (const std::string& path : DefaultDataDirectories()) {
-        if (!IsDataDirectory(path)) continue;
-        files::Open(path, files::Access::Write);
-        return;
-    }
-}
-
-/// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on once he has.
+/// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on after that.
 void StartInDataDirectory() {
-    OpenDefaultDataDirectory();
-    if (files::DirectoryPath().empty()) ShowModal(FormName::frmPath);
+    if (!OpenDataDirectory(DefaultDataDirectories(), files::Access::Write)) ShowModal(FormName::frmPath);
     StartUp(TheScreen());
     TakeNetworkOfUser();
 }

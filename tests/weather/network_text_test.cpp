@@ -25,6 +25,8 @@ TEST(NetworkText, TakesTheColumnsByTheirPlace) {
     EXPECT_EQ(
         (std::array{line->TempMax, line->TempMin, line->HumidityMax, line->HumidityMin, line->Radiation, line->Wind}),
         (std::array{4.25F, 5.25F, 7.25F, 8.25F, 11.25F, 19.25F}));
+    EXPECT_EQ(line->Rain, 12.25F);
+    EXPECT_EQ(LineOfDay("2002,12,06,4.25", {61, 2028}), "2028,61,06,4.25");
     EXPECT_FALSE(line->Bad || line->WindMissing);
     EXPECT_FALSE(reader.Next());
 }

@@ -130,7 +130,7 @@ void cmdOK_Click(frmViewWeather& form) {
     ShowUnits(form);
 }
 
-void cmdPrint_Click(frmViewWeather&) { PrintForm(FormName::frmViewWeather, "The form can't be printed."); }
+void cmdPrint_Click(frmViewWeather&) { PrintForm(FormName::frmViewWeather, CannotPrintForm); }
 
 /// The lines above the days, as wide as these.
 std::vector<std::string> Headings() {

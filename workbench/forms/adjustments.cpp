@@ -7,10 +7,10 @@
 #include "core/base/numbers.h"
 #include "core/field_in_work.h"
 #include "core/state.h"
+#include "reports/change_line.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/adjustments.h"
-#include "workbench/change_line.h"
 #include "workbench/forms/field_choice.h"
 
 namespace veraqua {
@@ -97,13 +97,13 @@ void mnuDepletion_Click(frmField& form) {
 
 void cmdDeplOK_Click(frmField& form) {
     const auto outcome = SetDepletion(TheScreen(), form.TxtNewDepl.Text);
-    if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome));
+    if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome, State.EnglishUnits));
     ShowRefusal(outcome.Why(), form.TxtNewDepl);
 }
 
 void cmd_Reset_Click(frmField& form) {
     const auto outcome = ResetField(TheScreen());
-    if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome));
+    if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome, State.EnglishUnits));
     ShowRefusal(outcome.Why(), form.TxtNewDepl);
 }
 

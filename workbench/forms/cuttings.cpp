@@ -6,11 +6,11 @@
 #include "core/directory.h"
 #include "core/field_in_work.h"
 #include "core/state.h"
+#include "reports/change_line.h"
 #include "reports/prediction_text.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/change_line.h"
 #include "workbench/cutting.h"
 #include "workbench/forms/field_menu.h"
 
@@ -31,7 +31,7 @@ void ShowAll(frmCuts& form) {
 
 /// Shows what a change has left in the file and done to the prediction.
 void ShowChange(frmCuts& form, const FieldChange& change) {
-    form.lblChange.Caption = ChangeLine(change);
+    form.lblChange.Caption = ChangeLine(change, State.EnglishUnits);
     form.CutEvents = change.File.Lists.Cuttings;
     ShowAll(form);
 }

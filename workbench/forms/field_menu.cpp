@@ -102,11 +102,11 @@ void m_iprint_Click(frmField& form) {
 void m_isave_Click(frmField&) { SaveScheduleByDialog(); }
 
 void m_prt_print_Click(frmField&) {
-    if (ExpectField()) RunFieldReport("printer");
+    if (ExpectField()) RunFieldReport(ReportDestination::Printer);
 }
 
 void m_rpt_disk_Click(frmField&) {
-    if (ExpectField()) RunFieldReport("disk");
+    if (ExpectField()) RunFieldReport(ReportDestination::Disk);
 }
 
 void m_rpt_display_Click(frmField&) {

@@ -27,7 +27,7 @@ void mnuDelete_Click(frmField& form) {
 void mnuRestore_Click(frmField& form) {
     const std::vector<Backup> backups = FindBackups();
     if (backups.empty()) {
-        TheScreen().Tell("No deleted fields found on disk!", "Warning");
+        TheScreen().Tell(NoBackupsText, "Warning");
         return;
     }
     SelectNothing(form);

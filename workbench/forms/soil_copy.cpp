@@ -35,7 +35,7 @@ void cmdDeleted_Click(frmCopySoilData& form) {
     Offer(form, true);
     form.ComboDField.Clear();
     form.DeletedFiles = FindBackups();
-    if (form.DeletedFiles.empty()) TheScreen().Tell("No deleted fields found on disk!", "Warning");
+    if (form.DeletedFiles.empty()) TheScreen().Tell(NoBackupsText, "Warning");
     int number = 0;
     for (const Backup& backup : form.DeletedFiles)
         form.ComboDField.Add(fmt::format("{}  -  {}", backup.FieldId, backup.CropName), ++number);
@@ -87,7 +87,7 @@ void cmdOK_Click(frmCopySoilData& form) {
     Unload(FormName::frmCopySoilData);
 }
 
-void cmdPrint_Click(frmCopySoilData&) { PrintForm(FormName::frmCopySoilData, "The form can't be printed."); }
+void cmdPrint_Click(frmCopySoilData&) { PrintForm(FormName::frmCopySoilData, CannotPrintForm); }
 
 void cmdCancel_Click(frmCopySoilData&) { Unload(FormName::frmCopySoilData); }
 

@@ -201,7 +201,7 @@ void cmdReset_Click(frmCapVar& form) {
     ClearSoilColumn(form.sh_soil);
 }
 
-void cmdPrint_Click(frmCapVar&) { PrintForm(FormName::frmCapVar, "The form can't be printed."); }
+void cmdPrint_Click(frmCapVar&) { PrintForm(FormName::frmCapVar, CannotPrintForm); }
 
 void cmdCancel_Click(frmCapVar&) {
     Unload(FormName::frmLoadField);

@@ -9,11 +9,11 @@
 #include "core/directory.h"
 #include "core/field_in_work.h"
 #include "core/state.h"
+#include "reports/change_line.h"
 #include "reports/prediction_text.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/change_line.h"
 #include "workbench/forms/field_menu.h"
 #include "workbench/water.h"
 
@@ -83,7 +83,7 @@ void ShowAll(frmAddWater& form) {
 
 /// Shows what a change has left in the file and done to the prediction.
 void ShowChange(frmAddWater& form, const FieldChange& change) {
-    form.lblChange.Caption = ChangeLine(change);
+    form.lblChange.Caption = ChangeLine(change, State.EnglishUnits);
     TakeLists(form, change.File);
     ShowAll(form);
 }

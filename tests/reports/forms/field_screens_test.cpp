@@ -8,6 +8,8 @@
 namespace veraqua {
 namespace {
 
+using testing::HasSubstr;
+
 struct FieldScreen : ReportForms {
     /// Shows `form` with the field of row 3 in work and gives what can be read on it.
     std::string Shown(FormName form) {
@@ -23,6 +25,11 @@ TEST_F(FieldScreen, SummaryTellsTheStateAndTheNextIrrigation) {
     StatRecord& row = Stored(3, SmallCrop(), 43, MayDay(5));
     row.Depletion = -5;
     row.MadNow = 45;
+    EXPECT_EQ(Shown(FormName::frmFieldData), ExpectedText("summary_crop"));
+    row.NextIrrDay = MayDay(4);
+    EXPECT_THAT(Shown(FormName::frmFieldData), HasSubstr("\ntxtIrrDate: Exceeded MAD!  Water TODAY! (red)\n"));
+    EXPECT_THAT(Shown(FormName::frmFieldDetails), HasSubstr("\ntxtIrrDate: Exceeded MAD!  WATER! (red)\nlbl_amount: "));
+    row.NextIrrDay = MayDay(5);
     EXPECT_EQ(Shown(FormName::frmFieldData), ExpectedText("summary_crop"));
 }
 
@@ -60,7 +67,7 @@ TEST_F(FieldScreen, HistoryOfHayHasItsCuttingsAndNoRoots) {
 TEST_F(ReportForms, FieldReportOnPaperIsAsExpectedToTheLastBlank) {
     Stored(2, SmallCrop(), 43, MayDay(5));
     State.CurrentField = 2;
-    RunFieldReport("printer");
+    RunFieldReport(ReportDestination::Printer);
     EXPECT_EQ(OnPaper(User.Printed.back()), ExpectedText("field_print_crop"));
     EXPECT_EQ(User.LastSaid(), "Veraqua: Field Histroy Report was sent to your default printer");
 }
@@ -68,13 +75,13 @@ TEST_F(ReportForms, FieldReportOnPaperIsAsExpectedToTheLastBlank) {
 TEST_F(ReportForms, FieldReportIsNotSaidToBeSentWhereItWasNot) {
     Stored(2, SmallCrop(), 43, MayDay(5));
     State.CurrentField = 3;
-    RunFieldReport("printer");  // there is no file
+    RunFieldReport(ReportDestination::Printer);  // there is no file
     State.CurrentField = 2;
     User.Printer = {PrintEnding::Left, ""};
-    RunFieldReport("printer");
+    RunFieldReport(ReportDestination::Printer);
     User.Printer = {PrintEnding::Failed, "out of paper"};
-    RunFieldReport("printer");
-    RunFieldReport("screen");
+    RunFieldReport(ReportDestination::Printer);
+    RunFieldReport(ReportDestination::None);
     EXPECT_THAT(User.Texts(), testing::ElementsAre(testing::HasSubstr("Your field file is missing"), "out of paper",
                                                    "Error - No choice to save or print report. Contact OLK."));
 }

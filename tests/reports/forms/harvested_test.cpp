@@ -44,6 +44,14 @@ TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
 
     Choosing("cmd_print");
     user.Pick("ComboDField", 0).Click("cmdOK");
+    EXPECT_EQ(Screen.txtData.Text,
+              "Fixed depth soil layers: interval = 01.0 feet\n"
+              "Soil Water Capacity\n"
+              "00.0 to 01.0 ft (in/ft):  2.00\n01.0 to 02.0 ft (in/ft):  1.80\n"
+              "02.0 to 03.0 ft (in/ft):  1.50\n03.0 to 04.0 ft (in/ft):  1.20\n"
+              "Initial Soil Water Content\n"
+              "00.0 to 01.0 ft (in/ft):  1.20\n01.0 to 02.0 ft (in/ft):  1.08\n"
+              "02.0 to 03.0 ft (in/ft):  0.96\n03.0 to 04.0 ft (in/ft):  0.84\n");
     EXPECT_THAT(OnPaper(User.Printed.back()), HasSubstr("| FIELD ID:        Meadow    \n"));
     Choosing("cmd_cancel");
     user.Click("cmdOK").Click("cmdCancel");
@@ -52,13 +60,14 @@ TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
 }
 
 struct ReportDialog : ReportForms {
-    std::vector<std::string> OpenedWith;  ///< names in the box, each time it opened
+    std::vector<std::string> OpenedWith;  ///< title and name in the box, each time it opened
 
     /// What the user does in the dialog from now on.
     void InDialog(std::function<void(At&)> doing) {
         User.WhenShown(FormName::frmReportOptions, [this, doing = std::move(doing)] {
             EXPECT_TRUE(State.ReportCancelled);
-            OpenedWith.push_back(The<frmReportOptions>().Txt_filename.Text);
+            EXPECT_FALSE(The<frmReportOptions>().cmd_print.Visible);
+            OpenedWith.push_back(The<frmReportOptions>().Caption + ": " + The<frmReportOptions>().Txt_filename.Text);
             At user(FormName::frmReportOptions);
             doing(user);
         });
@@ -76,13 +85,15 @@ TEST_F(ReportDialog, KeepsTheNameThatEachReportUsedLast) {
         user.Type("Txt_filename", "stat.dat").Click("cmd_OK");  // refused: the dialog stays
         user.Type("Txt_filename", "north.txt").Press("Txt_filename", Event::EnterKey);
     });
-    RunFieldReport("disk");
+    RunFieldReport(ReportDestination::Disk);
     InDialog([](At& user) { user.Click("cmd_OK"); });
     SaveScheduleByDialog();
-    RunFieldReport("disk");
+    RunFieldReport(ReportDestination::Disk);
 
-    EXPECT_THAT(OpenedWith,
-                ElementsAre(data + "Predict.txt", data + "Field.txt", data + "July.txt", data + "north.txt"));
+    EXPECT_THAT(
+        OpenedWith,
+        ElementsAre("Save Irrigation Schedule: " + data + "Predict.txt", "Save Field Report: " + data + "Field.txt",
+                    "Save Irrigation Schedule: " + data + "July.txt", "Save Field Report: " + data + "north.txt"));
     EXPECT_EQ(User.LastSaid(), "File Saved: Your Field Report was saved to: " + data + "north.txt");
     EXPECT_TRUE(Directory.Raw("north.txt").starts_with(" FIELD DATA as of 05-04-03"));
 }

@@ -42,11 +42,18 @@ struct ReportForms : FormTest {
         return text;
     }
 
-    /// What the user reads on a form, control by control: "txtKc: 0.84".
+    /// " (red)", or nothing where there is no colour.
+    static std::string ColourName(const std::optional<Colour>& colour) {
+        if (!colour) return "";
+        return *colour == colours::Red ? " (red)" : *colour == colours::Yellow ? " (yellow)" : " (another colour)";
+    }
+
+    /// What the user reads on a form, control by control, with what backs it: "txtKc: 0.84".
     static std::string ShownOn(FormName form) {
         std::string text;
         const auto add = [&](const ControlEntry& entry, const std::string& shown) {
-            if (entry.Shared().Visible && !shown.empty()) text += entry.Name + ": " + shown + "\n";
+            if (!entry.Shared().Visible || shown.empty()) return;
+            text += entry.Name + ": " + shown + ColourName(entry.Shared().Background) + "\n";
         };
         for (const ControlEntry& entry : FormOf(form).Controls) {
             if (TextBox* const* box = std::get_if<TextBox*>(&entry.Where)) add(entry, (*box)->Text);

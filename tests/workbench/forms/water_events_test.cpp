@@ -1,6 +1,6 @@
 #include "workbench/forms/water_events.h"
 
-#include "reports/report_text.h"
+#include "reports/prediction_text.h"
 #include "tests/workbench/forms/field_menu_fixture.h"
 #include "workbench/forms/cuttings.h"
 

@@ -1,19 +1,15 @@
-#include "shell/first_start.h"
-
 #include <map>
 #include <set>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include "catch_up/field_updates.h"
-#include "core/crop_table.h"
 #include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
-#include "data/embedded.h"
+#include "shell/first_start.h"
 #include "tests/support/data_directory.h"
-#include "tests/support/failure.h"
-#include "weather/default_weather.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {
@@ -21,46 +17,8 @@ namespace {
 
 using testing::AllOf;
 using testing::Each;
-using testing::ElementsAre;
 using testing::Ge;
-using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Le;
-
-using FirstStart = DirectoryTest;
-
-TEST_F(FirstStart, MakesTheShippedFilesAndAnEmptyFieldDirectory) {
-    const InitOutcome outcome = MakeDataDirectory(User, false);
-    EXPECT_THAT(outcome.Created, ElementsAre("VERAGUIDE.doc", "crop.dat", "stat.dat", "updates.dat", "weathdef.dat"));
-    EXPECT_EQ(files::Names(), outcome.Created);
-    for (const char* name : {"VERAGUIDE.doc", "crop.dat", "weathdef.dat"})
-        EXPECT_EQ(Directory.Raw(name), EmbeddedFile(name)) << name;
-    EXPECT_EQ(Directory.Raw("stat.dat"), std::string(4100, '\0'));
-}
-
-TEST_F(FirstStart, LeavesAloneWhatIsThere) {
-    Directory.Put("CROP.DAT", "1\n\"MY CROP\", 30, 10, 0.3, 1, 1820, 1, 0, 0, 0, 0, 0, 1132, 160\n");
-    EXPECT_THAT(MakeDataDirectory(User, false).Created,
-                ElementsAre("VERAGUIDE.doc", "stat.dat", "updates.dat", "weathdef.dat"));
-    EXPECT_THAT(Directory.Raw("CROP.DAT"), HasSubstr("MY CROP"));
-    EXPECT_THAT(MakeDataDirectory(User, false).Created, IsEmpty());
-}
-
-TEST_F(FirstStart, ACropTableWithoutTheSamplesCropsLeavesDirectoryAndStateAsTheyWere) {
-    Directory.Put("crop.dat", "0\n");
-    EXPECT_FAILURE(MakeDataDirectory(User, true), HasSubstr("crop.dat: the sample season needs the crop"));
-    EXPECT_THAT(files::Names(), ElementsAre("crop.dat"));
-    EXPECT_EQ(State.TodayJulian, 0);
-    EXPECT_THAT(State.DefaultStations, IsEmpty());
-}
-
-TEST_F(FirstStart, ShippedTablesHoldAllCropsStationsAndRegions) {
-    MakeDataDirectory(User, false);
-    const std::vector<Crop> crops = ReadCropTable(User);
-    EXPECT_EQ(std::ranges::count_if(crops, &Crop::IsHay), 4);
-    EXPECT_EQ(crops.size(), 28U);
-    EXPECT_EQ(State.DefaultStations.size(), 33U);
-}
 
 struct SampleOnADay : DirectoryTest, testing::WithParamInterface<Date> {
     SampleOnADay() { User.Today = JulianFromDate(GetParam().Month, GetParam().Day, GetParam().Year); }
@@ -115,9 +73,14 @@ TEST_P(SampleOnADay, IsUpToDateAndTheSameToTheByteElsewhere) {
 // meets hay of the summer.
 INSTANTIATE_TEST_SUITE_P(Days, SampleOnADay,
                          testing::Values(Date{7, 15, 2026}, Date{1, 1, 2026}, Date{2, 29, 2028}, Date{4, 24, 2027},
-                                         Date{5, 20, 2027}, Date{12, 31, 2100}));
+                                         Date{5, 20, 2027}, Date{12, 31, 2100}),
+                         [](const auto& day) {
+                             return fmt::format("{}_{:02}_{:02}", day.param.Year, day.param.Month, day.param.Day);
+                         });
 
-TEST_F(FirstStart, AMeasuredYearStandsForTheYearsOfTheSample) {
+using Sample = DirectoryTest;
+
+TEST_F(Sample, AMeasuredYearStandsForTheYearsOfTheSample) {
     User.Today = JulianFromDate(3, 2, 2028);
     MakeDataDirectory(User, true);
     // Days 59 and 60 of 2002, 28 February and 1 March, had 22.50 and 18.28 degrees C at Davis.
