@@ -2,8 +2,7 @@
 
 #include <memory>
 
-#include <curl/curl.h>
-
+#include "cli/curl_library.h"
 #include "weather/network_text.h"
 
 namespace veraqua {
@@ -46,39 +45,40 @@ std::string ReasonOf(const std::string& statusLine) {
 
 using Handle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
-Handle MakeHandle(const std::string& url, Received& received) {
-    Handle handle(curl_easy_init(), &curl_easy_cleanup);
-    CURL* curl = handle.get();
-    if (curl == nullptr) return handle;
-    curl_easy_setopt(curl, CURLOPT_URL, url.c_str());
-    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 1L);
-    curl_easy_setopt(curl, CURLOPT_MAXREDIRS, MostRedirects);
-    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, SilenceLimitSeconds);
-    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, 1L);
-    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, SilenceLimitSeconds);
-    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");
-    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &TakeBody);
-    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &received);
-    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &TakeHeader);
-    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &received);
+Handle MakeHandle(const CurlLibrary& curl, const std::string& url, Received& received) {
+    Handle handle(curl.Init(), curl.Cleanup);
+    if (!handle) return handle;
+    curl.Setopt(handle.get(), CURLOPT_URL, url.c_str());
+    curl.Setopt(handle.get(), CURLOPT_PROTOCOLS_STR, "http,https");
+    curl.Setopt(handle.get(), CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    curl.Setopt(handle.get(), CURLOPT_FOLLOWLOCATION, 1L);
+    curl.Setopt(handle.get(), CURLOPT_MAXREDIRS, MostRedirects);
+    curl.Setopt(handle.get(), CURLOPT_CONNECTTIMEOUT, SilenceLimitSeconds);
+    curl.Setopt(handle.get(), CURLOPT_LOW_SPEED_LIMIT, 1L);
+    curl.Setopt(handle.get(), CURLOPT_LOW_SPEED_TIME, SilenceLimitSeconds);
+    curl.Setopt(handle.get(), CURLOPT_NOSIGNAL, 1L);
+    curl.Setopt(handle.get(), CURLOPT_ACCEPT_ENCODING, "");
+    curl.Setopt(handle.get(), CURLOPT_WRITEFUNCTION, &TakeBody);
+    curl.Setopt(handle.get(), CURLOPT_WRITEDATA, &received);
+    curl.Setopt(handle.get(), CURLOPT_HEADERFUNCTION, &TakeHeader);
+    curl.Setopt(handle.get(), CURLOPT_HEADERDATA, &received);
     return handle;
 }
 
 }  // namespace
 
 HttpReply HttpGet(const std::string& url, const std::function<void(std::string_view)>& state) {
+    const CurlLibrary* curl = LoadedCurl();
+    if (curl == nullptr) return {false, CURLE_FAILED_INIT, "the library libcurl is missing", {}};
     Received received;
-    const Handle handle = MakeHandle(url, received);
+    const Handle handle = MakeHandle(*curl, url, received);
     if (!handle) return {false, CURLE_FAILED_INIT, "the network can't be used", {}};
     state("Resolving IP/Connecting...");
-    const CURLcode outcome = curl_easy_perform(handle.get());
+    const CURLcode outcome = curl->Perform(handle.get());
     if (received.TooLarge) return {false, CURLE_FILESIZE_EXCEEDED, "the text is larger than 4 MiB", {}};
-    if (outcome != CURLE_OK) return {false, static_cast<int>(outcome), curl_easy_strerror(outcome), {}};
+    if (outcome != CURLE_OK) return {false, static_cast<int>(outcome), curl->Strerror(outcome), {}};
     long status = 0;
-    curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &status);
+    curl->Getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &status);
     if (status != HttpOk) return {false, static_cast<int>(status), ReasonOf(received.StatusLine), {}};
     return {true, static_cast<int>(status), {}, std::move(received.Body)};
 }

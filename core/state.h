@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/base/failure.h"
+#include "core/base/version.h"
 #include "core/records.h"
 
 namespace veraqua {
@@ -32,7 +33,7 @@ class DirectoryRows {
 /// Everything that more than one room works on. Water is in mm, depth in m, temperature in degrees C.
 struct ApplicationState {
     // The program
-    std::string VersionString = "Ver 1.17";
+    std::string VersionString = VersionText;
     std::string BaseUrl = "http://kesta.example/kesta/data/";  ///< of the weather network, ending in "/"
     bool EnglishUnits = true;       ///< inches, feet and degrees F on screens and in reports, else mm, m, degrees C
     JulianValue TodayJulian = 0;    ///< "today" for all scheduling
