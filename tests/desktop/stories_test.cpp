@@ -147,7 +147,7 @@ TEST_F(StoriesTest, EnterAloneConfirmsNoDeletionOfAField) {
     const auto fields = State.FieldCount;
     Choose(FormName::frmField, "mnuDelete");
     EXPECT_THAT(LastSaid(), HasSubstr("Delete Confirmation: Please confirm"));
-    EXPECT_EQ(State.FieldCount, fields);
+    ASSERT_EQ(State.FieldCount, fields);
     Answers = {QMessageBox::Yes};
     Choose(FormName::frmField, "mnuDelete");
     EXPECT_EQ(State.FieldCount, fields - 1);
