@@ -213,11 +213,11 @@ TEST_F(StoriesTest, ABoxIsNotLeftWithAWrongNumberButForTheExit) {
     const std::size_t said = Said.size();
     auto& mad = The<QLineEdit>(FormName::frmLoadField, "txtMAD");
     QTest::keyClick(&mad, Qt::Key_Tab);
-    QTRY_COMPARE(Said.size(), said + 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Said.size() == said + 1; }));
     Settle();
     EXPECT_EQ(QApplication::focusWidget(), &mad);
     QTest::mouseClick(&The(FormName::frmLoadField, "txtIrrEff"), Qt::LeftButton);
-    QTRY_COMPARE(Said.size(), said + 2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Said.size() == said + 2; }));
     Settle();
     EXPECT_EQ(QApplication::focusWidget(), &mad);
     EXPECT_TRUE(mad.property("refused").toBool());
