@@ -2,8 +2,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QCalendarWidget>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -14,7 +12,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
-#include <algorithm>
 
 #include "desktop/manual/manual_window.h"
 #include "desktop/panel_area.h"
@@ -138,7 +135,7 @@ bool BoundWindow::Reach(const ControlEntry& control) {
     return moved;
 }
 
-/// A check keeps the user where he was, and says why.
+/// A check keeps the user where they were, and says why.
 void BoundWindow::KeepFocus(const ControlEntry& wanted) {
     if (const ControlView* view = ViewOf(wanted))
         if (auto* button = qobject_cast<QAbstractButton*>(view->Widget())) button->setDown(false);

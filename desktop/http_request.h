@@ -44,8 +44,8 @@ class HttpRequest {
     void Report(const HttpProgress& state) const;
 
     std::chrono::milliseconds longestSilence_;
-    std::unique_ptr<QNetworkAccessManager>
-        manager_;                         ///< made by the first request: the start of the program is quicker
+    /// Made by the first request: the start of the program is quicker.
+    std::unique_ptr<QNetworkAccessManager> manager_;
     std::shared_ptr<Exchange> exchange_;  ///< the request in work
 };
 

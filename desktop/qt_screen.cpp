@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QUrl>
-#include <algorithm>
 #include <cstdlib>
 
 #include "desktop/print/printing.h"

@@ -1,6 +1,5 @@
 #include "desktop/theme.h"
 
-#include <QAbstractScrollArea>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>

@@ -37,8 +37,8 @@ F& The() {
 }
 
 enum class Event {
-    Click,   ///< button pressed, menu entry chosen, list row or calendar day picked, row of a table opened, option
-             ///< chosen
+    /// Button pressed, menu entry or option chosen, list row or calendar day picked, row of a table opened.
+    Click,
     Change,  ///< text typed into a box; in an editable drop-down list, on leaving it or Enter
     Leave,   ///< the focus is about to go elsewhere, but not to an exit; a refusal keeps it
     EnterKey,

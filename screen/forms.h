@@ -53,7 +53,7 @@ void CloseForm(FormTable& form);
 /// leaving a box. False, with the focus on the box, where one refuses.
 bool LeaveChecksPass(FormName name);
 
-/// The user goes from the control in focus to `next` (null: to none). False if the check of the former keeps him.
+/// The user goes from the control in focus to `next` (null: to none). False if the check of the former refuses.
 bool MoveFocus(FormTable& form, const ControlEntry* next);
 
 }  // namespace veraqua

@@ -17,7 +17,7 @@ namespace {
 void HeadlessScreen::RunModal(FormTable& form) {
     if (waiting_) std::exchange(waiting_, nullptr)();
     const auto doing = doings_.find(form.Name);
-    // A copy: while the user is at it, he may be told to do something else the next time.
+    // A copy: while they are at it, the user may be told to do something else the next time.
     if (form.Shown && doing != doings_.end()) std::function<void()>(doing->second)();
     if (form.Shown) CloseForm(form);
 }

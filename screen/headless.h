@@ -11,7 +11,7 @@
 namespace veraqua {
 
 /// A screen without windows, for scripts: the command line and the tests say beforehand what the user does on each form
-/// that is shown to him alone. One that is still shown afterwards is left as by its window's frame.
+/// that is shown to them alone. One that is still shown afterwards is left as by its window's frame.
 class HeadlessScreen : public Screen {
   public:
     /// What the user does each time `form` is shown modally.
@@ -61,12 +61,12 @@ class At {
     /// Closes the window by its frame.
     At& Close();
 
-    /// Whether a check has kept the user where he was. What he was to do after it is not done.
+    /// Whether a check has kept the user where they were. What they were to do after it is not done.
     bool Held() const { return held_; }
 
   private:
     ControlEntry& Usable(std::string_view name) const;
-    /// The user's focus goes to `control`. False if he is held, now or since an earlier step.
+    /// The user's focus goes to `control`. False if they are held, now or since an earlier step.
     bool Reach(ControlEntry& control);
 
     FormTable* form_;

@@ -27,6 +27,8 @@ struct ChartSeries {
     std::string Unit;
     Look Shape = Look::Line;
     std::vector<Point> Points;
+
+    bool operator==(const ChartSeries&) const = default;
 };
 
 /// A day of note, drawn as an upright line.
@@ -44,6 +46,8 @@ struct ChartContent {
     std::string ValueAxis;
     std::vector<ChartSeries> Series;
     std::vector<ChartMark> Marks;
+
+    bool operator==(const ChartContent&) const = default;
 };
 
 }  // namespace veraqua

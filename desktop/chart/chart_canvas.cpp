@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "core/base/numbers.h"
@@ -18,14 +19,6 @@ namespace {
 constexpr double ZoomPerNotch = 1.25;
 constexpr double MovePerNotch = 0.1;  // of the days shown
 constexpr double Notch = 120;         // of the wheel
-
-bool SamePicture(const Chart& a, const Chart& b) {
-    const auto sameSeries = [](const ChartSeries& x, const ChartSeries& y) {
-        return x.Name == y.Name && x.Unit == y.Unit && x.Shape == y.Shape && x.Points == y.Points;
-    };
-    return a.Title == b.Title && a.DayAxis == b.DayAxis && a.ValueAxis == b.ValueAxis && a.Marks == b.Marks &&
-           std::equal(a.Series.begin(), a.Series.end(), b.Series.begin(), b.Series.end(), sameSeries);
-}
 
 }  // namespace
 
@@ -42,8 +35,8 @@ ChartCanvas::ChartCanvas(QWidget* parent, std::function<void()> daysChanged)
     viewport()->setMouseTracking(true);
 }
 
-bool ChartCanvas::ShowChart(const Chart& chart) {
-    if (plot_ != nullptr && SamePicture(plot_->Shown(), chart)) return false;
+bool ChartCanvas::ShowChart(const ChartContent& chart) {
+    if (plot_ != nullptr && plot_->Shown() == chart) return false;
     auto plot = std::make_unique<ChartPlot>(chart, palette(), font());
     if (plot_ != nullptr && plot_->Shown().Title == chart.Title && plot_->Season() == plot->Season())
         plot->ShowDays(plot_->Days());

@@ -2,7 +2,6 @@
 
 #include <QChartView>
 #include <functional>
-#include <optional>
 
 #include "desktop/chart/chart_plot.h"
 
@@ -19,7 +18,7 @@ class ChartCanvas : public QChartView {
     ChartCanvas(QWidget* parent, std::function<void()> daysChanged);
 
     /// While title and season stay the same, so do the days that are shown. False if `chart` is there already.
-    bool ShowChart(const Chart& chart);
+    bool ShowChart(const ChartContent& chart);
 
     /// Null while there is no chart with a day.
     ChartPlot* Plot() const { return plot_ != nullptr && plot_->Season().Length() > 0 ? plot_ : nullptr; }

@@ -14,10 +14,10 @@
 #include <array>
 #include <optional>
 
+#include "chart/readings.h"
 #include "core/base/failure.h"
 #include "core/files/files.h"
 #include "desktop/chart/chart_plot.h"
-#include "desktop/chart/chart_reading.h"
 #include "desktop/text.h"
 #include "reports/report_file.h"
 #include "screen/screen.h"
@@ -50,16 +50,10 @@ QPalette PaperPalette() {
     return palette;
 }
 
-/// The chart without the days that aren't shown: a drawing can't clip lines at the edge of the plot.
-Chart CutTo(Chart chart, DayRange days) {
-    for (ChartSeries& series : chart.Series)
-        std::erase_if(series.Points, [&](const ChartSeries::Point& point) { return !days.Holds(point.Day); });
-    return chart;
-}
-
 /// Paints the picture on `device`, whose coordinates are those of the screen.
 void PaintOn(QPaintDevice& device, const ChartPicture& picture) {
     QGraphicsScene scene;
+    // A drawing can't clip lines at the edge of the plot.
     auto* plot = new ChartPlot(CutTo(*picture.Shown, picture.Days), PaperPalette(), QFont());
     scene.addItem(plot);
     const QRectF place(QPointF(), picture.Size);
@@ -92,20 +86,20 @@ std::string Svg(const ChartPicture& picture) {
     return bytes.data().toStdString();
 }
 
-QString ProposedPath(const Chart& chart, const FormatName& format) {
+QString ProposedPath(const ChartContent& chart, const FormatName& format) {
     QString name = chart.Title.empty() ? "Chart" : ToQt(chart.Title);
     for (const char c : {'/', '\\', ':', '|', '\''}) name.replace(c, '-');
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QString("%1/%2.%3").arg(QDir(documents).exists() ? documents : QDir::homePath(), name, format.Ending);
 }
 
-/// The file and the format that the user chooses; nothing if he leaves.
+/// The file and the format that the user chooses; nothing if they leave.
 struct Choice {
     QString Path;
     ChartFormat Format = ChartFormat::Png;
 };
 
-std::optional<Choice> ChoiceOf(QWidget* parent, ChartFormat format, const Chart& chart) {
+std::optional<Choice> ChoiceOf(QWidget* parent, ChartFormat format, const ChartContent& chart) {
     QFileDialog dialog(parent, "Save chart");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     QStringList filters;

@@ -3,7 +3,7 @@
 #include <QSize>
 #include <string>
 
-#include "desktop/chart/chart_days.h"
+#include "chart/days.h"
 
 class QWidget;
 
@@ -13,7 +13,7 @@ namespace veraqua {
 
 /// As the user sees it.
 struct ChartPicture {
-    const Chart* Shown = nullptr;
+    const ChartContent* Shown = nullptr;
     DayRange Days;
     QSize Size;
 };

@@ -3,6 +3,8 @@
 #include <QPainter>
 
 #include "desktop/chart/chart_look.h"
+#include "desktop/chart/chart_type.h"
+#include "desktop/text.h"
 
 namespace veraqua {
 
@@ -14,7 +16,7 @@ constexpr double CornerRadius = 8;
 
 }  // namespace
 
-ChartFrame::ChartFrame(const Chart& chart, QGraphicsItem* parent) : QGraphicsItem(parent), chart_(&chart) {}
+ChartFrame::ChartFrame(const ChartContent& chart, QGraphicsItem* parent) : QGraphicsItem(parent), chart_(&chart) {}
 
 void ChartFrame::Show(const ChartLayout& layout, const QPalette& palette, const QFont& font) {
     prepareGeometryChange();
@@ -31,39 +33,39 @@ void ChartFrame::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidg
     painter->setPen(QPen(GridColour(palette_), 1));
     painter->setBrush(palette_.color(QPalette::Base));
     painter->drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
-    if (layout_.Plot.isEmpty()) return;
+    if (layout_.Plot.IsEmpty()) return;
     painter->setBrush(Qt::NoBrush);
-    painter->drawLines(layout_.Grid);
+    for (const ChartLine& line : layout_.Grid) painter->drawLine(InQt(line));
     painter->setPen(QPen(Blended(GridColour(palette_), QuietText(palette_), 0.5F), 1));
-    painter->drawRect(layout_.Plot);
+    painter->drawRect(InQt(layout_.Plot));
     painter->setPen(QPen(QuietText(palette_), 1.2, Qt::DashLine));
-    painter->drawLines(layout_.Marks);
+    for (const ChartLine& line : layout_.Marks) painter->drawLine(InQt(line));
     for (const ChartLayout::Sample& sample : layout_.Samples) PaintSample(*painter, sample);
     for (const ChartLayout::Words& words : layout_.Texts) PaintWords(*painter, words);
 }
 
 void ChartFrame::PaintSample(QPainter& painter, const ChartLayout::Sample& sample) const {
     const SeriesLook look = LookOf(*chart_, sample.Series, palette_);
-    const QPointF centre = sample.Box.center();
+    const QRectF box = InQt(sample.Box);
+    const QPointF centre = box.center();
     if (look.Fill != Qt::NoBrush) {
         // Two bars.
-        const double width = sample.Box.width() / 5;
-        const QRectF bar(centre.x() - 1.5 * width, sample.Box.top() + 2, width, sample.Box.height() - 4);
+        const double width = box.width() / 5;
+        const QRectF bar(centre.x() - 1.5 * width, box.top() + 2, width, box.height() - 4);
         painter.fillRect(bar, look.Fill);
         painter.fillRect(bar.adjusted(2 * width, bar.height() / 3, 2 * width, 0), look.Fill);
         return;
     }
     painter.setPen(look.Line);
-    painter.drawLine(QPointF(sample.Box.left(), centre.y()), QPointF(sample.Box.right(), centre.y()));
+    painter.drawLine(QPointF(box.left(), centre.y()), QPointF(box.right(), centre.y()));
 }
 
 void ChartFrame::PaintWords(QPainter& painter, const ChartLayout::Words& words) const {
-    QFont font = font_;
-    font.setBold(words.Is == Tone::Title);
-    painter.setFont(font);
-    if (words.Is == Tone::MarkName) painter.fillRect(words.Box, palette_.color(QPalette::Base));
+    painter.setFont(words.Is == Tone::Title ? Bold(font_) : font_);
+    if (words.Is == Tone::MarkName) painter.fillRect(InQt(words.Box), palette_.color(QPalette::Base));
     painter.setPen(words.Is == Tone::Quiet ? QuietText(palette_) : palette_.color(QPalette::Text));
-    painter.drawText(words.Box, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip | Qt::TextSingleLine, words.Text);
+    painter.drawText(InQt(words.Box), static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip | Qt::TextSingleLine,
+                     ToQt(words.Text));
 }
 
 }  // namespace veraqua

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QFont>
 #include <QGraphicsItem>
 #include <QPalette>
 
-#include "desktop/chart/chart_layout.h"
+#include "chart/layout.h"
 
 namespace veraqua {
 
@@ -11,7 +12,7 @@ namespace veraqua {
 class ChartFrame : public QGraphicsItem {
   public:
     /// `chart` outlives it.
-    ChartFrame(const Chart& chart, QGraphicsItem* parent);
+    ChartFrame(const ChartContent& chart, QGraphicsItem* parent);
 
     void Show(const ChartLayout& layout, const QPalette& palette, const QFont& font);
 
@@ -22,7 +23,7 @@ class ChartFrame : public QGraphicsItem {
     void PaintSample(QPainter& painter, const ChartLayout::Sample& sample) const;
     void PaintWords(QPainter& painter, const ChartLayout::Words& words) const;
 
-    const Chart* chart_;
+    const ChartContent* chart_;
     ChartLayout layout_;
     QPalette palette_;
     QFont font_;

@@ -30,7 +30,7 @@ QColor ColourOf(const std::array<Tint, Count>& tints, std::size_t place, const Q
 }
 
 /// How many series of the same kind stand before `series`.
-std::size_t PlaceInKind(const Chart& chart, std::size_t series) {
+std::size_t PlaceInKind(const ChartContent& chart, std::size_t series) {
     std::size_t place = 0;
     for (std::size_t i = 0; i < series; ++i)
         if (chart.Series[i].Shape == chart.Series[series].Shape) ++place;
@@ -39,7 +39,7 @@ std::size_t PlaceInKind(const Chart& chart, std::size_t series) {
 
 }  // namespace
 
-SeriesLook LookOf(const Chart& chart, std::size_t series, const QPalette& palette) {
+SeriesLook LookOf(const ChartContent& chart, std::size_t series, const QPalette& palette) {
     const std::size_t place = PlaceInKind(chart, series);
     QPen pen(ColourOf(LineTints, place, palette), LineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     switch (chart.Series[series].Shape) {

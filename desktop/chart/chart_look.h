@@ -5,7 +5,7 @@
 #include <QPen>
 #include <cstddef>
 
-#include "screen/chart.h"
+#include "core/shown/chart.h"
 
 /// Colours and pens of a chart, by the palette.
 namespace veraqua {
@@ -17,7 +17,7 @@ struct SeriesLook {
 
 /// The look of a series of `chart`. Colours are apart for the colour blind, too (after Okabe and Ito, 2008, "Color
 /// Universal Design"), and besides by brightness or line style.
-SeriesLook LookOf(const Chart& chart, std::size_t series, const QPalette& palette);
+SeriesLook LookOf(const ChartContent& chart, std::size_t series, const QPalette& palette);
 
 /// Text and lines that stay behind the values.
 QColor QuietText(const QPalette& palette);

@@ -5,7 +5,6 @@
 #include <QLegend>
 #include <QLineSeries>
 #include <QValueAxis>
-#include <algorithm>
 #include <utility>
 
 #include "desktop/chart/chart_frame.h"
@@ -20,8 +19,6 @@ using Look = ChartSeries::Look;
 
 constexpr double FrameDepth = 0.5;    // before the ground, behind the series
 constexpr double PointerDepth = 100;  // before everything
-constexpr double DayShare = 0.8;      // of a day's width, for its bars
-constexpr double ThinnestBar = 2;     // pixels
 
 QList<QPointF> PointsOf(const ChartSeries& series) {
     QList<QPointF> points;
@@ -29,20 +26,20 @@ QList<QPointF> PointsOf(const ChartSeries& series) {
     return points;
 }
 
-/// The upper edge of a series' bars, which run `offset` days beside the day and are `width` days wide.
-QList<QPointF> BarsOf(const ChartSeries& series, double offset, double width) {
+/// The upper edge of the bars of a series.
+QList<QPointF> EdgeOf(const ChartSeries& series, const ChartLayout::Bars& bars) {
     QList<QPointF> edge;
     for (const ChartSeries::Point& point : series.Points) {
-        const double left = point.Day + offset;
-        edge << QPointF(left, 0) << QPointF(left, point.Value) << QPointF(left + width, point.Value)
-             << QPointF(left + width, 0);
+        const double left = point.Day + bars.Offset;
+        edge << QPointF(left, 0) << QPointF(left, point.Value) << QPointF(left + bars.Width, point.Value)
+             << QPointF(left + bars.Width, 0);
     }
     return edge;
 }
 
 }  // namespace
 
-ChartPlot::ChartPlot(Chart chart, const QPalette& palette, const QFont& font)
+ChartPlot::ChartPlot(ChartContent chart, const QPalette& palette, const QFont& font)
     : chart_(std::move(chart)),
       palette_(palette),
       font_(font),
@@ -77,7 +74,7 @@ void ChartPlot::AddSeries(std::size_t series) {
     auto* line = new QLineSeries(this);
     QAbstractSeries* shown = line;
     if (added.Shape == Look::Bars) {
-        bars_.push_back({series, line});
+        barEdges_[series] = line;
         shown = new QAreaSeries(line);
     } else {
         line->replace(PointsOf(added));
@@ -120,28 +117,17 @@ void ChartPlot::Colour() {
 }
 
 void ChartPlot::Arrange() {
-    layout_ = LayOut(chart_, days_, size(), font_);
+    layout_ = LayOut(chart_, days_, size().width(), size().height(), TypeOf(font_));
     Colour();
     frame_->Show(layout_, palette_, font_);
     pointer_->Show(layout_, palette_, font_);
-    if (layout_.Plot.isEmpty()) return;
-    setPlotArea(layout_.Plot);
+    if (layout_.Plot.IsEmpty()) return;
+    setPlotArea(Plot());
     dayAxis_->setRange(layout_.Days.First, layout_.Days.Last);
     valueAxis_->setRange(layout_.ValueLow, layout_.ValueHigh);
     amountAxis_->setRange(0, layout_.AmountHigh);
-    ArrangeBars();
-}
-
-void ChartPlot::ArrangeBars() {
-    if (bars_.empty()) return;
-    const double pixel = layout_.Days.Length() / layout_.Plot.width();
-    const auto count = static_cast<double>(bars_.size());
-    const double width = std::max(DayShare / count, ThinnestBar * pixel);
-    double offset = -width * count / 2;
-    for (const Bars& bars : bars_) {
-        bars.Edge->replace(BarsOf(chart_.Series[bars.Series], offset, width));
-        offset += width;
-    }
+    for (const ChartLayout::Bars& bars : layout_.AllBars)
+        barEdges_.at(bars.Series)->replace(EdgeOf(chart_.Series[bars.Series], bars));
 }
 
 }  // namespace veraqua

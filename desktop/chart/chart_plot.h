@@ -2,11 +2,11 @@
 
 #include <QChart>
 #include <QPalette>
+#include <map>
 #include <optional>
-#include <vector>
 
-#include "desktop/chart/chart_days.h"
-#include "desktop/chart/chart_layout.h"
+#include "chart/layout.h"
+#include "desktop/chart/chart_type.h"
 
 class QLineSeries;
 class QValueAxis;
@@ -19,12 +19,12 @@ class ChartPointer;
 /// A chart as an item of a graphics scene, at any size: series, axes, legend and marks, and the pointer at a day.
 class ChartPlot : public QChart {
   public:
-    ChartPlot(Chart chart, const QPalette& palette, const QFont& font);
+    ChartPlot(ChartContent chart, const QPalette& palette, const QFont& font);
     ~ChartPlot() override;
     ChartPlot(const ChartPlot&) = delete;
     ChartPlot& operator=(const ChartPlot&) = delete;
 
-    const Chart& Shown() const { return chart_; }
+    const ChartContent& Shown() const { return chart_; }
     DayRange Season() const { return season_; }
 
     /// The days from side to side: at first the season. `ShowDays` keeps within it.
@@ -34,7 +34,7 @@ class ChartPlot : public QChart {
     void Restyle(const QPalette& palette, const QFont& font);
 
     /// Where the values are, in the item's pixels.
-    QRectF Plot() const { return layout_.Plot; }
+    QRectF Plot() const { return InQt(layout_.Plot); }
     double DayAt(double x) const { return layout_.DayAt(x); }
 
     /// The day that is pointed at.
@@ -45,18 +45,11 @@ class ChartPlot : public QChart {
     void resizeEvent(QGraphicsSceneResizeEvent* event) override;
 
   private:
-    /// The upper edge of bars, and the series that they are.
-    struct Bars {
-        std::size_t Series = 0;
-        QLineSeries* Edge = nullptr;
-    };
-
     void AddSeries(std::size_t series);
     void Colour();
     void Arrange();
-    void ArrangeBars();
 
-    Chart chart_;
+    ChartContent chart_;
     QPalette palette_;
     QFont font_;
     DayRange season_;
@@ -65,7 +58,7 @@ class ChartPlot : public QChart {
     QValueAxis* dayAxis_;
     QValueAxis* valueAxis_;
     QValueAxis* amountAxis_;
-    std::vector<Bars> bars_;
+    std::map<std::size_t, QLineSeries*> barEdges_;  ///< the upper edge of bars by their series
     ChartFrame* frame_;
     ChartPointer* pointer_;
 };

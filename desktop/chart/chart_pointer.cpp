@@ -4,8 +4,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "chart/readings.h"
 #include "desktop/chart/chart_look.h"
-#include "desktop/chart/chart_reading.h"
+#include "desktop/chart/chart_type.h"
 #include "desktop/text.h"
 
 namespace veraqua {
@@ -15,7 +16,7 @@ namespace {
 constexpr double DotRadius = 4;
 constexpr double Padding = 8;
 constexpr double SwatchWidth = 20;
-constexpr double Distance = 10;  ///< of the box from the line
+constexpr double Distance = 10;  // of the box from the line
 
 /// One row of the box.
 struct Row {
@@ -24,17 +25,12 @@ struct Row {
     QString Value;
 };
 
-std::vector<Row> RowsOf(const Chart& chart, JulianValue day, const QPalette& palette) {
+std::vector<Row> RowsOf(const ChartContent& chart, JulianValue day, const QPalette& palette) {
     std::vector<Row> rows;
     for (const Reading& reading : ReadingsOn(chart, day))
         rows.push_back(
             {LookOf(chart, reading.Series, palette), ToQt(chart.Series[reading.Series].Name), ToQt(reading.Text)});
     return rows;
-}
-
-QFont Bold(QFont font) {
-    font.setBold(true);
-    return font;
 }
 
 /// The widths of the box's columns, and its lines.
@@ -65,7 +61,7 @@ void PaintSwatch(QPainter& painter, const SeriesLook& look, const QRectF& line) 
 
 }  // namespace
 
-ChartPointer::ChartPointer(const Chart& chart, QGraphicsItem* parent) : QGraphicsItem(parent), chart_(&chart) {}
+ChartPointer::ChartPointer(const ChartContent& chart, QGraphicsItem* parent) : QGraphicsItem(parent), chart_(&chart) {}
 
 void ChartPointer::Show(const ChartLayout& layout, const QPalette& palette, const QFont& font) {
     prepareGeometryChange();
@@ -84,11 +80,11 @@ void ChartPointer::PointAt(std::optional<JulianValue> day) {
 QRectF ChartPointer::boundingRect() const { return parentItem()->boundingRect(); }
 
 void ChartPointer::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
-    if (!day_ || layout_.Plot.isEmpty() || !layout_.Days.Holds(*day_)) return;
+    if (!day_ || layout_.Plot.IsEmpty() || !layout_.Days.Holds(*day_)) return;
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(palette_.color(QPalette::Text), 1));
     const double x = layout_.XOf(*day_);
-    painter->drawLine(QPointF(x, layout_.NamesBottom), QPointF(x, layout_.Plot.bottom()));
+    painter->drawLine(QPointF(x, layout_.NamesBottom), QPointF(x, layout_.Plot.Bottom()));
     PaintDots(*painter);
     PaintBox(*painter);
 }

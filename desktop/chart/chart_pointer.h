@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QFont>
 #include <QGraphicsItem>
 #include <QPalette>
 #include <optional>
 
-#include "desktop/chart/chart_layout.h"
+#include "chart/layout.h"
 
 namespace veraqua {
 
@@ -12,7 +13,7 @@ namespace veraqua {
 class ChartPointer : public QGraphicsItem {
   public:
     /// `chart` outlives it.
-    ChartPointer(const Chart& chart, QGraphicsItem* parent);
+    ChartPointer(const ChartContent& chart, QGraphicsItem* parent);
 
     void Show(const ChartLayout& layout, const QPalette& palette, const QFont& font);
 
@@ -27,7 +28,7 @@ class ChartPointer : public QGraphicsItem {
     void PaintDots(QPainter& painter) const;
     void PaintBox(QPainter& painter) const;
 
-    const Chart* chart_;
+    const ChartContent* chart_;
     ChartLayout layout_;
     QPalette palette_;
     QFont font_;

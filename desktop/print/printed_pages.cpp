@@ -115,34 +115,52 @@ using FaceKey = std::pair<std::string, int>;
 
 FaceKey KeyOf(const Font& face) { return {face.Family, face.Points}; }
 
-/// How much smaller each font has to be for its widest line.
-std::map<FaceKey, double> FactorsOf(const PrintedDocument& document, double width, QPagedPaintDevice& device) {
-    std::map<FaceKey, double> factors;
-    for (const PrintedLine& line : document.Lines) {
-        const QFontMetricsF metrics(FontOf(line.Face), &device);
-        double& factor = factors.try_emplace(KeyOf(line.Face), 1).first->second;
-        const double wide = metrics.horizontalAdvance(ToQt(line.Text));
-        if (wide > 0) factor = std::min(factor, width / wide);
+/// Letters don't shrink in the very proportion, in some fonts far from it: what is made smaller is measured again.
+constexpr double Slack = 0.995;
+constexpr int MostAttempts = 8;
+
+/// How much smaller `face` has to be for the widest of its lines.
+double FactorFor(const Font& face, const PrintedDocument& document, double width, QPagedPaintDevice& device) {
+    double factor = 1;
+    for (int attempt = 0; attempt < MostAttempts; ++attempt) {
+        const QFontMetricsF metrics(FontOf(face, factor), &device);
+        double widest = 0;
+        for (const PrintedLine& line : document.Lines)
+            if (line.Face == face) widest = std::max(widest, metrics.horizontalAdvance(ToQt(line.Text)));
+        if (widest <= width) break;
+        factor *= Slack * width / widest;
     }
-    return factors;
+    return factor;
 }
 
-/// Letters are placed on whole pixels and don't shrink in the very proportion.
-constexpr double Slack = 0.995;
-
-/// `room` by `heights`, where it is worth it.
-double FactorForOnePage(const PrintedDocument& document, const LaidOutDocument& laid, double room) {
-    const double factor = Slack * room / std::accumulate(laid.Heights.begin(), laid.Heights.end(), 0.0);
-    const auto smallest = std::min_element(laid.Fonts.begin(), laid.Fonts.end(), [](const QFont& a, const QFont& b) {
-        return a.pointSizeF() < b.pointSizeF();
-    });
-    const bool readable = smallest != laid.Fonts.end() && smallest->pointSizeF() * factor >= LeastPoints;
-    return document.OnOnePage && factor < 1 && readable ? factor : 1;
+std::map<FaceKey, double> FactorsOf(const PrintedDocument& document, double width, QPagedPaintDevice& device) {
+    std::map<FaceKey, double> factors;
+    for (const PrintedLine& line : document.Lines)
+        if (const auto [factor, isNew] = factors.try_emplace(KeyOf(line.Face), 1); isNew)
+            factor->second = FactorFor(line.Face, document, width, device);
+    return factors;
 }
 
 void Measure(LaidOutDocument& laid, QPagedPaintDevice& device) {
     laid.Heights.clear();
     for (const QFont& font : laid.Fonts) laid.Heights.push_back(QFontMetricsF(font, &device).lineSpacing());
+}
+
+/// All fonts become smaller for a page of the height `room`, unless they couldn't be read then.
+void FitOnOnePage(LaidOutDocument& laid, double room, QPagedPaintDevice& device) {
+    LaidOutDocument smaller = laid;
+    for (int attempt = 0; attempt < MostAttempts; ++attempt) {
+        const double height = std::accumulate(smaller.Heights.begin(), smaller.Heights.end(), 0.0);
+        if (height <= room) {
+            laid = std::move(smaller);
+            return;
+        }
+        for (QFont& font : smaller.Fonts) {
+            font.setPointSizeF(font.pointSizeF() * Slack * room / height);
+            if (font.pointSizeF() < LeastPoints) return;
+        }
+        Measure(smaller, device);
+    }
 }
 
 }  // namespace
@@ -155,16 +173,12 @@ std::vector<PageLines> PagesOf(const PrintedDocument& document, const std::vecto
 
 LaidOutDocument LayOut(const PrintedDocument& document, QPagedPaintDevice& device) {
     const QRectF area = AreasOf(device).Text;
-    const std::map<FaceKey, double> factors = FactorsOf(document, Slack * area.width(), device);
+    const std::map<FaceKey, double> factors = FactorsOf(document, area.width(), device);
     LaidOutDocument laid;
     for (const PrintedLine& line : document.Lines)
         laid.Fonts.push_back(FontOf(line.Face, factors.at(KeyOf(line.Face))));
     Measure(laid, device);
-    const double smaller = FactorForOnePage(document, laid, area.height());
-    if (smaller < 1) {
-        for (QFont& font : laid.Fonts) font.setPointSizeF(font.pointSizeF() * smaller);
-        Measure(laid, device);
-    }
+    if (document.OnOnePage) FitOnOnePage(laid, area.height(), device);
     laid.Pages = PagesOf(document, laid.Heights, area.height());
     return laid;
 }

@@ -53,7 +53,7 @@ QString PaintOn(QPagedPaintDevice& device, const PagePainting& paint) {
 }
 
 /// Likewise. The file becomes the new one as a whole or stays as it was.
-QString WritePdfOf(const QString& path, const QString& title, const QPageLayout& page, const PagePainting& paint) {
+QString WritePdf(const QString& path, const QString& title, const QPageLayout& page, const PagePainting& paint) {
     QSaveFile file(path);
     file.setDirectWriteFallback(true);  // for a file that may be written in a directory that may not
     const auto failure = [&] { return QString("%1 can't be written: %2.").arg(path, file.errorString()); };
@@ -69,7 +69,7 @@ QString WritePdfOf(const QString& path, const QString& title, const QPageLayout&
     return {};
 }
 
-/// A name that every file system takes, where the user keeps his documents.
+/// A name that every file system takes, where the user keeps documents.
 QString ProposedPdf(QString title) {
     for (QChar& character : title)
         if (QString("/\\:*?\"<>|").contains(character)) character = '-';
@@ -126,7 +126,7 @@ class Preview {
         files.setAcceptMode(QFileDialog::AcceptSave);
         files.setDefaultSuffix("pdf");
         if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty()) return;
-        reason_ = WritePdfOf(files.selectedFiles().constFirst(), title_, printer_.pageLayout(), paint_);
+        reason_ = WritePdf(files.selectedFiles().constFirst(), title_, printer_.pageLayout(), paint_);
         dialog_.accept();
     }
 
@@ -171,10 +171,6 @@ PrintOutcome PrintWindow(QWidget* window, const QString& title) {
     return PrintWithPreview(window, title, [&](QPagedPaintDevice& device, QPainter& painter) {
         return PaintPicture(image, size, title, device, painter);
     });
-}
-
-bool WritePdf(const QString& path, const PrintedDocument& document) {
-    return WritePdfOf(path, ToQt(document.Title), UsualPage(), PaintingOf(document)).isEmpty();
 }
 
 }  // namespace veraqua

@@ -23,7 +23,4 @@ PrintOutcome PrintDocumentOn(QWidget* over, const PrintedDocument& document);
 /// Prints the image of a window.
 PrintOutcome PrintWindow(QWidget* window, const QString& title);
 
-/// Writes a document as PDF. False if the file can't be written; a file of that name stays as it was then.
-bool WritePdf(const QString& path, const PrintedDocument& document);
-
 }  // namespace veraqua

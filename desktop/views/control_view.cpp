@@ -1,8 +1,5 @@
 #include "desktop/views/control_view.h"
 
-#include <QAction>
-#include <QMenu>
-
 #include "desktop/text.h"
 #include "desktop/views/widget_view.h"
 #include "screen/overloaded.h"

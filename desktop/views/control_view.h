@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 
 #include "screen/form.h"
@@ -13,7 +12,7 @@ class ControlEvents {
   public:
     virtual ~ControlEvents() = default;
 
-    /// The user is about to use `control`. False where the check of the one that he comes from keeps him there.
+    /// The user is about to use `control`. False where the check of the one they come from keeps them there.
     virtual bool Reach(const ControlEntry& control) = 0;
 
     /// Runs an event of `control` after the user has reached it.

@@ -11,9 +11,9 @@ namespace veraqua {
 namespace {
 
 /// A tree of the directories; hidden ones too, since a data directory is usually below one.
-class DirectoryTree : public WidgetView<DirectoryBox, QTreeView> {
+class DirectoryView : public WidgetView<DirectoryBox, QTreeView> {
   public:
-    DirectoryTree(ControlEntry& entry, DirectoryBox& box, QTreeView& shown, ControlEvents& events)
+    DirectoryView(ControlEntry& entry, DirectoryBox& box, QTreeView& shown, ControlEvents& events)
         : WidgetView(entry, box, shown, events) {
         QObject::connect(&shown, &QTreeView::clicked, &shown, [this](const QModelIndex& at) { Pick(at); });
         QObject::connect(&shown, &QTreeView::activated, &shown, [this](const QModelIndex& at) { Pick(at); });
@@ -60,7 +60,7 @@ class DirectoryTree : public WidgetView<DirectoryBox, QTreeView> {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, DirectoryBox& box, QWidget* widget, ControlEvents& events) {
-    return ViewOn<DirectoryTree, QTreeView>(entry, box, widget, events);
+    return ViewOn<DirectoryView, QTreeView>(entry, box, widget, events);
 }
 
 }  // namespace veraqua

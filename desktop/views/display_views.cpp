@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -7,13 +6,12 @@
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QStatusBar>
-#include <QStyle>
 #include <QSvgRenderer>
 
-#include "desktop/chart/chart_view.h"
+#include "desktop/chart/chart_widget.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
-#include "desktop/views/drawing_view.h"
+#include "desktop/views/drawing_widget.h"
 #include "desktop/views/widget_view.h"
 
 namespace veraqua {
@@ -124,7 +122,7 @@ class ImageView : public WidgetView<Image, QLabel> {
     qreal ratio_ = 0;
 };
 
-class DrawingHolder : public WidgetView<Drawing, DrawingView> {
+class DrawingView : public WidgetView<Drawing, DrawingWidget> {
   public:
     using WidgetView::WidgetView;
 
@@ -132,7 +130,7 @@ class DrawingHolder : public WidgetView<Drawing, DrawingView> {
     void BringOwn() override { Shown().ShowDrawing(Record()); }
 };
 
-class ChartHolder : public WidgetView<Chart, ChartView> {
+class ChartView : public WidgetView<Chart, ChartWidget> {
   public:
     using WidgetView::WidgetView;
 
@@ -192,11 +190,11 @@ std::unique_ptr<ControlView> MakeDisplay(ControlEntry& entry, Image& image, QWid
 
 std::unique_ptr<ControlView> MakeDisplay(ControlEntry& entry, Drawing& drawing, QWidget* widget,
                                          ControlEvents& events) {
-    return ViewOn<DrawingHolder, DrawingView>(entry, drawing, widget, events);
+    return ViewOn<DrawingView, DrawingWidget>(entry, drawing, widget, events);
 }
 
 std::unique_ptr<ControlView> MakeDisplay(ControlEntry& entry, Chart& chart, QWidget* widget, ControlEvents& events) {
-    return ViewOn<ChartHolder, ChartView>(entry, chart, widget, events);
+    return ViewOn<ChartView, ChartWidget>(entry, chart, widget, events);
 }
 
 std::unique_ptr<ControlView> MakeMenuEntry(ControlEntry& entry, MenuItem& item, QObject* action,

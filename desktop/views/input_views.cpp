@@ -1,9 +1,9 @@
+#include <QAbstractButton>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <functional>

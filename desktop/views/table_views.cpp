@@ -148,9 +148,9 @@ class TableParts {
     QSortFilterProxyModel sorted_;
 };
 
-class TableHolder : public WidgetView<Table, QTableView> {
+class TableView : public WidgetView<Table, QTableView> {
   public:
-    TableHolder(ControlEntry& entry, Table& table, QTableView& shown, ControlEvents& events)
+    TableView(ControlEntry& entry, Table& table, QTableView& shown, ControlEvents& events)
         : WidgetView(entry, table, shown, events), parts_(shown) {
         shown.setSelectionMode(QAbstractItemView::SingleSelection);
         QObject::connect(&shown, &QTableView::activated, &shown, [this](const QModelIndex& index) {
@@ -285,7 +285,7 @@ class ListingView : public WidgetView<TextBox, QTableView> {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeTable(ControlEntry& entry, Table& table, QWidget* widget, ControlEvents& events) {
-    return ViewOn<TableHolder, QTableView>(entry, table, widget, events);
+    return ViewOn<TableView, QTableView>(entry, table, widget, events);
 }
 
 std::unique_ptr<ControlView> MakeListing(ControlEntry& entry, TextBox& box, QWidget* widget, FormTable& form,

@@ -51,8 +51,6 @@ class WidgetView : public ControlView {
         events_->Happened(*entry_, Event::Change);
     }
 
-    const ControlEntry& Entry() const { return *entry_; }
-
   private:
     ControlEntry* entry_;
     C* control_;

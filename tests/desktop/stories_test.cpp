@@ -7,11 +7,17 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTcpServer>
+#include <algorithm>
+#include <map>
+#include <utility>
 
 #include <gmock/gmock.h>
 
+#include "desktop/manual/manual_page.h"
+#include "desktop/window_place.h"
 #include "tests/desktop/window_test.h"
 
 namespace veraqua {
@@ -21,6 +27,18 @@ using testing::HasSubstr;
 
 struct StoriesTest : WindowTest {
     std::string TextOf(FormName form, const char* label) { return FromQt(The<QLabel>(form, label).text()); }
+
+    /// The bars that are shown, in the order of the page: crop and ID of each.
+    std::vector<std::pair<std::string, std::string>> Bars() {
+        std::map<std::pair<int, int>, std::pair<std::string, std::string>> bars;
+        for (const QMdiSubWindow* frame : Window(FormName::frmGraphs).findChild<QMdiArea*>()->subWindowList()) {
+            const QStringList title = frame->windowTitle().split(" -- ID: ");
+            if (frame->isVisible()) bars[{frame->y(), frame->x()}] = {FromQt(title[0]), FromQt(title[1])};
+        }
+        std::vector<std::pair<std::string, std::string>> inOrder;
+        for (const auto& [place, bar] : bars) inOrder.push_back(bar);
+        return inOrder;
+    }
 
     /// The main menu of the sample season, the worst field of its list first.
     QTableView& Today() {
@@ -53,23 +71,86 @@ TEST_F(StoriesTest, ANewUserStartsWithTheSampleAndOpensTheFieldThatNeedsWaterMos
     EXPECT_TRUE(IsUp(FormName::frmVeraqua) && !IsUp(FormName::frmField));
 }
 
-TEST_F(StoriesTest, TheListIsSortedByItsNumbersAndCopied) {
+TEST_F(StoriesTest, TheListIsSortedByItsNumbersAndTheRowThatIsSeenIsCopiedAndOpened) {
     QTableView& today = Today();
     const int last = today.model()->rowCount() - 1;
-    for (int column = 0; column < today.model()->columnCount(); ++column) {
-        if (!today.model()->headerData(column, Qt::Horizontal).toString().startsWith("Depletion")) continue;
-        today.sortByColumn(column, Qt::DescendingOrder);
-        const auto number = [&](int row) { return today.model()->index(row, column).data().toString().toInt(); };
-        for (int row = 1; row <= last; ++row) EXPECT_GE(number(row - 1), number(row));
-    }
+    int depletion = -1;
+    for (int column = 0; column < today.model()->columnCount(); ++column)
+        if (today.model()->headerData(column, Qt::Horizontal).toString().startsWith("Depletion")) depletion = column;
+    ASSERT_GE(depletion, 0);
+    const auto text = [&](int row, int column) { return today.model()->index(row, column).data().toString(); };
+    const QString worst = text(0, 0);
+    today.sortByColumn(depletion, Qt::AscendingOrder);
+    EXPECT_NE(text(0, 0), worst);
+    today.sortByColumn(depletion, Qt::DescendingOrder);
+    for (int row = 1; row <= last; ++row) EXPECT_GE(text(row - 1, depletion).toInt(), text(row, depletion).toInt());
+    today.clearSelection();
+    today.scrollTo(today.model()->index(0, depletion));
+    EXPECT_EQ(ColourIn(*today.viewport(), today.visualRect(today.model()->index(0, depletion))), QColor(255, 150, 140))
+        << "an alarm is red";
+    const QString second = text(1, 0);
+    today.setCurrentIndex(today.model()->index(1, 0));
+    Press(FormName::frmVeraqua, "Today", Qt::Key_Return);
+    EXPECT_THAT(TextOf(FormName::frmField, "lbl_ID"), HasSubstr(FromQt(second)));
+    Press(FormName::frmField, "cmd_return", Qt::Key_Escape);
+    ASSERT_TRUE(IsUp(FormName::frmVeraqua));
+    const QString shownLast = text(last, 0);
     today.selectRow(last);
     QTest::keySequence(&today, QKeySequence::Copy);
     const QString copied = QApplication::clipboard()->text();
-    EXPECT_TRUE(copied.contains(today.model()->index(last, 0).data().toString() + "\t")) << FromQt(copied);
+    EXPECT_TRUE(copied.contains(shownLast + "\t")) << FromQt(copied);
     EXPECT_TRUE(copied.startsWith("Field\t")) << FromQt(copied);
-    const QString shownLast = today.model()->index(last, 0).data().toString();
     Click(FormName::frmVeraqua, "cmdOpenToday");
     EXPECT_THAT(TextOf(FormName::frmField, "lbl_ID"), HasSubstr(FromQt(shownLast)));
+}
+
+TEST_F(StoriesTest, EveryWindowIsLeftByEscAndTellsOfItselfByF1) {
+    Today();
+    const std::pair<const char*, FormName> tiles[] = {
+        {"cmdConfig", FormName::frmConfig}, {"cmdWeather", FormName::frmWeather}, {"cmdfields", FormName::frmField}};
+    for (const auto& [tile, form] : tiles) {
+        Press(FormName::frmVeraqua, tile, Qt::Key_Return);
+        EXPECT_TRUE(IsUp(form) && !IsUp(FormName::frmVeraqua)) << tile;
+        ASSERT_NE(Window(form).focusWidget(), nullptr) << tile;
+        QTest::keyClick(Window(form).focusWidget(), Qt::Key_F1);
+        const ManualPage* manual = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->isVisible() && manual == nullptr) manual = window->findChild<ManualPage*>();
+        ASSERT_NE(manual, nullptr) << tile;
+        EXPECT_EQ(manual->Sections()[manual->SectionInView()].Id, Window(form).property("help").toString());
+        manual->window()->close();
+        QTest::keyClick(Window(form).focusWidget(), Qt::Key_Escape);
+        Settle();
+        EXPECT_TRUE(!IsUp(form) && IsUp(FormName::frmVeraqua)) << tile;
+    }
+}
+
+TEST_F(StoriesTest, WhatIsDisabledIsNotClickedByItsNameEither) {
+    Today();
+    auto& tile = *std::get<Button*>(FormOf(FormName::frmVeraqua).Find("cmdConfig")->Where);
+    QLabel* name = nullptr;
+    for (auto* label : Window(FormName::frmVeraqua).findChildren<QLabel*>())
+        if (label->buddy() == &The(FormName::frmVeraqua, "cmdConfig")) name = label;
+    ASSERT_NE(name, nullptr);
+    for (const bool enabled : {false, true}) {
+        tile.Enabled = enabled;
+        Screen.BringAll();
+        Click(FormName::frmVeraqua, "cmdConfig");
+        QTest::mouseClick(name, Qt::LeftButton);
+        Settle();
+        EXPECT_EQ(IsUp(FormName::frmConfig), enabled);
+    }
+}
+
+TEST_F(StoriesTest, EnterAloneConfirmsNoDeletionOfAField) {
+    OpenField(1);
+    const auto fields = State.FieldCount;
+    Choose(FormName::frmField, "mnuDelete");
+    EXPECT_THAT(LastSaid(), HasSubstr("Delete Confirmation: Please confirm"));
+    ASSERT_EQ(State.FieldCount, fields);
+    Answers = {QMessageBox::Yes};
+    Choose(FormName::frmField, "mnuDelete");
+    EXPECT_EQ(State.FieldCount, fields - 1);
 }
 
 TEST_F(StoriesTest, WaterIsTypedAndWhatIsRefusedIsSaidAtTheBox) {
@@ -77,8 +158,25 @@ TEST_F(StoriesTest, WaterIsTypedAndWhatIsRefusedIsSaidAtTheBox) {
     Choose(FormName::frmField, "mnuAdd");
     auto& list = The<QListWidget>(FormName::frmAddWater, "ListIrr");
     const int before = list.count();
-    Type(FormName::frmAddWater, "txtIrrAdd", "7/14/2025");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    auto panels = Window(FormName::frmAddWater).findChild<QStatusBar*>()->findChildren<QLabel*>();
+    std::ranges::sort(panels, {}, [](const QLabel* panel) { return panel->x(); });
+    const char* said[] = {"Field=", "Planted: ", "Kesta: "};
+    ASSERT_EQ(panels.size(), std::ssize(said));
+    for (int i = 0; i < panels.size(); ++i) EXPECT_TRUE(panels[i]->text().startsWith(said[i])) << said[i];
+    // The day before today, by the date's calendar.
+    auto& date = The<QLineEdit>(FormName::frmAddWater, "txtIrrAdd");
+    Type(FormName::frmAddWater, "txtIrrAdd", "");
+    QTimer::singleShot(0, &date, [] {
+        const QWidget* popup = QApplication::activePopupWidget();
+        ASSERT_NE(popup, nullptr);
+        auto* days = popup->findChild<QAbstractItemView*>("qt_calendar_calendarview");
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Return}) QTest::keyClick(days, key);
+    });
+    QTest::keyClick(&date, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(date.text(), "07-14-2025");
+    Window(FormName::frmAddWater).activateWindow();
+    Settle();
+    QTest::keyClick(&date, Qt::Key_Return);
     Settle();
     auto& amount = The<QLineEdit>(FormName::frmAddWater, "txtIrrigation");
     EXPECT_EQ(QApplication::focusWidget(), &amount);
@@ -113,14 +211,18 @@ TEST_F(StoriesTest, ABoxIsNotLeftWithAWrongNumberButForTheExit) {
     EXPECT_EQ(The<QLineEdit>(FormName::frmLoadField, "txtFieldID").text(), "EAST");
     Type(FormName::frmLoadField, "txtMAD", "x");
     const std::size_t said = Said.size();
-    QTest::mouseClick(&The(FormName::frmLoadField, "txtIrrEff"), Qt::LeftButton);
-    QTRY_COMPARE(Said.size(), said + 1);
-    Settle();
     auto& mad = The<QLineEdit>(FormName::frmLoadField, "txtMAD");
+    QTest::keyClick(&mad, Qt::Key_Tab);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Said.size() == said + 1; }));
+    Settle();
+    EXPECT_EQ(QApplication::focusWidget(), &mad);
+    QTest::mouseClick(&The(FormName::frmLoadField, "txtIrrEff"), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Said.size() == said + 2; }));
+    Settle();
     EXPECT_EQ(QApplication::focusWidget(), &mad);
     EXPECT_TRUE(mad.property("refused").toBool());
     Click(FormName::frmLoadField, "cmd_Cancel");
-    EXPECT_EQ(Said.size(), said + 1);
+    EXPECT_EQ(Said.size(), said + 2);
     EXPECT_FALSE(IsUp(FormName::frmLoadField));
     EXPECT_TRUE(IsUp(FormName::frmField));
 }
@@ -135,7 +237,14 @@ TEST_F(StoriesTest, UnitsAndTheDayAreChosenAndHoldInEveryWindow) {
     EXPECT_FALSE(The<QRadioButton>(FormName::frmConfig, "optEnglish").isChecked());
     Choose(FormName::frmConfig, "mnuDate");
     Click(FormName::frmConfig, "cmd_Calendar");
-    Q_EMIT The<QCalendarWidget>(FormName::frmConfig, "Cal1").clicked(QDate(2025, 7, 10));
+    auto& calendar = The<QCalendarWidget>(FormName::frmConfig, "Cal1");
+    Q_EMIT calendar.clicked(QDate(2025, 7, 12));
+    Settle();
+    EXPECT_EQ(FromQt(The<QLineEdit>(FormName::frmConfig, "txtDate").text()), "07-12-2025");
+    Click(FormName::frmConfig, "cmd_Calendar");
+    auto* days = calendar.findChild<QAbstractItemView*>("qt_calendar_calendarview");
+    for (int day = 15; day > 10; --day) QTest::keyClick(days, Qt::Key_Left);
+    QTest::keyClick(days, Qt::Key_Return);
     Settle();
     EXPECT_EQ(FromQt(The<QLineEdit>(FormName::frmConfig, "txtDate").text()), "07-10-2025");
     Click(FormName::frmConfig, "cmdOK");
@@ -190,30 +299,92 @@ TEST_F(StoriesTest, ADownloadThatTheNetworkLeavesHangingIsCancelledAtOnce) {
     EXPECT_TRUE(IsUp(FormName::frmWeather) && !IsUp(FormName::frmDownload));
 }
 
-TEST_F(StoriesTest, AFieldIsChosenAmongTheBars) {
+TEST_F(StoriesTest, TheSoilOfANewFieldIsEnteredInNamedBoxes) {
     OpenField(1);
+    const std::pair<int, FormName> soils[] = {{0, FormName::frmCap}, {1, FormName::frmCapVar}};
+    for (const auto& [soil, form] : soils) {
+        Choose(FormName::frmField, "mnuNew");
+        Pick(FormName::frmField, "comboCrops", 0);
+        Pick(FormName::frmField, "Combo_Soils", soil);
+        Click(FormName::frmField, "cmd_OK");
+        Type(FormName::frmLoadField, "txtFieldID", "EAST");
+        Pick(FormName::frmLoadField, "ComboKESTA", 5);
+        WhenShown[form] = [this, shown = form] {
+            if (shown == FormName::frmCap) Type(shown, "txtDepth", "12");
+            Click(shown, "cmdDepth");
+            EXPECT_TRUE(The(shown, "txtcap_0").isVisible());
+            Click(shown, "cmdCancel");
+        };
+        Click(FormName::frmLoadField, "cmd_OK");
+        EXPECT_TRUE(WhenShown.empty()) << LastSaid();
+        if (IsUp(FormName::frmLoadField)) Click(FormName::frmLoadField, "cmd_Cancel");
+    }
+}
+
+TEST_F(StoriesTest, AFieldIsChosenAmongTheBarsWhichAreSortedAndTurnedInPages) {
+    OpenField(1);
+    State.DisplayDays = 4;
+    std::vector<std::string> ids;
+    for (int row = 1; row <= State.FieldCount; ++row) ids.push_back(State.Stat[row].FieldId.Text());
+    std::ranges::sort(ids);
+    ASSERT_GE(ids.size(), 9U);
     Choose(FormName::frmField, "m_displays");
+    Choose(FormName::frmGraphs, "m_Field");
+    const auto first = Bars();
+    Choose(FormName::frmGraphs, "m_next12");
+    const auto second = Bars();
+    ASSERT_TRUE(first.size() == 4 && second.size() == 4);
+    for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(first[i].second + second[i].second, ids[i] + ids[i + 4]);
+    Choose(FormName::frmGraphs, "m_prior12");
+    EXPECT_EQ(Bars(), first);
+    Choose(FormName::frmGraphs, "m_crop");
+    EXPECT_TRUE(std::ranges::is_sorted(Bars(), {}, [](const auto& bar) { return bar.first; }));
+    EXPECT_NE(Bars(), first);
+    int alarms = 0;
     const auto frames = Window(FormName::frmGraphs).findChild<QMdiArea*>()->subWindowList();
-    ASSERT_GE(frames.size(), 9);
     EXPECT_FALSE(frames[0]->geometry().intersects(frames[1]->geometry()));
-    const std::string title = FromQt(frames[2]->windowTitle());
-    QTest::mouseClick(frames[2]->findChild<QWidget*>("cmd_Select"), Qt::LeftButton);
+    for (const QMdiSubWindow* frame : frames) {
+        auto& depletion = *frame->findChild<QLabel*>("lbl_depl");
+        const auto percent = [&](const char* label) {
+            return frame->findChild<QLabel*>(label)->text().section(':', 1).remove('%').toDouble();
+        };
+        const bool alarm = percent("lbl_depl") > 1.2 * percent("lbl_MAD");
+        const QString colour = ColourIn(depletion, depletion.rect()).name();
+        EXPECT_EQ(colour == "#ff0000", alarm) << FromQt(colour + frame->windowTitle() + depletion.text());
+        alarms += alarm ? 1 : 0;
+    }
+    EXPECT_GT(alarms, 0);
+    const std::string id = Bars()[2].second;
+    for (const QMdiSubWindow* frame : frames)
+        if (frame->windowTitle().endsWith(ToQt(id)))
+            QTest::mouseClick(frame->findChild<QWidget*>("cmd_Select"), Qt::LeftButton);
     Settle();
     EXPECT_TRUE(IsUp(FormName::frmField) && !IsUp(FormName::frmGraphs));
-    const std::string id = title.substr(title.find("ID: ") + 4);
     EXPECT_THAT(TextOf(FormName::frmField, "lbl_ID"), HasSubstr(id));
 }
 
-TEST_F(StoriesTest, AWindowKeepsItsSizeAndIsNeverOffTheScreen) {
+TEST_F(StoriesTest, AWindowKeepsItsSizeToTheNextRunAndIsNeverOffTheScreen) {
     Today();
-    QWidget& menu = Window(FormName::frmVeraqua);
-    menu.resize(menu.width() + 37, menu.height());
-    const int width = menu.width();
-    menu.move(5000, 5000);
     Click(FormName::frmVeraqua, "cmdConfig");
+    QWidget& configuration = Window(FormName::frmConfig);
+    configuration.resize(configuration.width() + 37, configuration.height() + 11);
+    const QSize size = configuration.size();
     Click(FormName::frmConfig, "Cmd_Exit");
-    EXPECT_TRUE(menu.screen()->availableGeometry().contains(menu.geometry().center()));
-    EXPECT_TRUE(menu.width() == width || width > menu.screen()->availableGeometry().width());
+    {
+        QtScreen next;
+        Show(FormName::frmConfig);
+        EXPECT_EQ(next.WindowOf(FormOf(FormName::frmConfig)).Window().size(), size);
+        Unload(FormName::frmConfig);
+    }
+    InstallScreen(Screen);
+    const QRect room = configuration.screen()->availableGeometry();
+    QWidget corner;
+    QWidget window;
+    corner.setGeometry(QRect(room.bottomRight() - QPoint(60, 60), QSize(50, 50)));
+    corner.show();
+    window.resize(room.width() / 2, room.height() * 2);
+    PlaceWindow(window, "a new one", &corner);
+    EXPECT_TRUE(room.contains(window.frameGeometry()));
 }
 
 }  // namespace

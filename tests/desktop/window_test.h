@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -12,6 +14,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,13 +24,14 @@
 #include "core/state.h"
 #include "desktop/qt_screen.h"
 #include "desktop/text.h"
+#include "desktop/views/control_view.h"
 #include "screen/forms.h"
 #include "tests/support/data_directory.h"
 
 namespace veraqua {
 
-/// The program with real windows, before a user whose data home is a directory of the test. He answers messages, and
-/// does on the windows that are shown to him alone what was said beforehand.
+/// The program with real windows, before a user whose data home is a directory of the test. They answer messages,
+/// and do on the windows that are shown to them alone what was said beforehand.
 struct WindowTest : testing::Test {
     static constexpr JulianValue Today = JulianFromDate(7, 15, 2025);
 
@@ -106,13 +110,56 @@ struct WindowTest : testing::Test {
 
     std::string LastSaid() const { return Said.empty() ? "" : Said.back(); }
 
-    /// Lets all that is due happen.
-    static void Settle() {
+    /// Lets all that is due happen, and looks whether the windows show what the forms say.
+    void Settle() {
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
+        Look();
+    }
+
+    /// The colour that is on the screen near the upper left corner of `place` in `widget`.
+    static QColor ColourIn(QWidget& widget, const QRect& place) {
+        return widget.grab().toImage().pixelColor(place.topLeft() + QPoint(1, 1));
     }
 
   private:
+    /// Which windows are there, and which of their controls can be seen and used, in which colours.
+    void Look() {
+        std::set<std::string> up;
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            if (window->isVisible() && window->objectName().startsWith("frm")) up.insert(FromQt(window->objectName()));
+        std::set<std::string> shown;
+        for (FormTable* form : AllForms()) {
+            if (!form->Shown) continue;
+            shown.emplace(form->Text);
+            for (const ControlEntry& entry : form->Controls) LookAt(Window(form->Name), entry);
+        }
+        EXPECT_EQ(up, shown);
+    }
+
+    static void LookAt(QWidget& window, const ControlEntry& entry) {
+        const Control& control = entry.Shared();
+        const QString name = WidgetName(entry.Name);
+        const QString place = window.objectName() + '.' + name;
+        if (std::holds_alternative<MenuItem*>(entry.Where)) {
+            const auto* menu = window.findChild<QMenu*>(name);
+            const auto* action = menu != nullptr ? menu->menuAction() : window.findChild<QAction*>(name);
+            EXPECT_EQ(action->isVisible(), control.Visible) << FromQt(place);
+            EXPECT_EQ(action->isEnabled(), control.Enabled) << FromQt(place);
+        } else if (auto* widget = window.findChild<QWidget*>(name)) {
+            EXPECT_EQ(widget->isVisibleTo(&window), control.Visible) << FromQt(place);
+            EXPECT_EQ(widget->isEnabledTo(widget->parentWidget()), control.Enabled) << FromQt(place);
+            if (!widget->isVisible()) return;
+            const bool named =
+                !QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).trimmed().isEmpty();
+            EXPECT_TRUE(named || (widget->focusPolicy() & Qt::TabFocus) == 0) << FromQt(place) << " has no name";
+            if (!control.Background) return;
+            const Colour& colour = *control.Background;
+            EXPECT_EQ(ColourIn(*widget, widget->rect()).rgb(), qRgb(colour.Red, colour.Green, colour.Blue))
+                << FromQt(place);
+        }
+    }
+
     /// The user looks at what stands before all else.
     void Attend() {
         QWidget* modal = QApplication::activeModalWidget();
@@ -128,12 +175,10 @@ struct WindowTest : testing::Test {
 
     void Answer(QMessageBox& box) {
         Said.push_back(FromQt(box.windowTitle() + ": " + box.text()));
-        QAbstractButton* button = box.defaultButton();
-        if (!Answers.empty()) {
-            button = box.button(Answers.front());
-            Answers.erase(Answers.begin());
-        }
-        if (button != nullptr) button->click();
+        if (Answers.empty()) return QTest::keyClick(&box, Qt::Key_Return);
+        QAbstractButton* button = box.button(Answers.front());
+        Answers.erase(Answers.begin());
+        button->click();
     }
 
     QTimer hand_;

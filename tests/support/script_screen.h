@@ -13,7 +13,7 @@
 namespace veraqua {
 
 /// The user at the forms of a test: a script of answers, and a record of all that was said, shown, focused and printed.
-/// What he does on a form that is shown to him alone stands in `WhenShown`.
+/// What they do on a form that is shown to them alone stands in `WhenShown`.
 class ScriptScreen : public Scripted<HeadlessScreen> {
   public:
     PrintOutcome Printer;                    ///< what comes of printing

@@ -1,4 +1,4 @@
-#include "desktop/chart/chart_reading.h"
+#include "chart/readings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +19,7 @@ const Point* PointOn(const ChartSeries& series, JulianValue day) {
 }
 
 /// As many decimals as the largest value of the unit leaves sensible: 3.25 in, 82.6 mm.
-std::string_view MaskFor(const Chart& chart, const std::string& unit) {
+std::string_view MaskFor(const ChartContent& chart, const std::string& unit) {
     double largest = 0;
     for (const ChartSeries& series : chart.Series)
         for (const Point& point : series.Points)
@@ -39,7 +39,7 @@ std::string Cell(const std::string& text) {
 /// The values of a day by column, as text.
 using Columns = std::vector<std::string>;
 
-std::map<JulianValue, Columns> DaysOf(const Chart& chart) {
+std::map<JulianValue, Columns> DaysOf(const ChartContent& chart) {
     // More decimals than anything on the screen, but none that single precision doesn't hold.
     constexpr double parts = 10000;
     std::map<JulianValue, Columns> days;
@@ -53,7 +53,7 @@ std::map<JulianValue, Columns> DaysOf(const Chart& chart) {
 
 }  // namespace
 
-std::vector<Reading> ReadingsOn(const Chart& chart, JulianValue day) {
+std::vector<Reading> ReadingsOn(const ChartContent& chart, JulianValue day) {
     std::vector<Reading> readings;
     for (std::size_t i = 0; i < chart.Series.size(); ++i) {
         const ChartSeries& series = chart.Series[i];
@@ -64,21 +64,21 @@ std::vector<Reading> ReadingsOn(const Chart& chart, JulianValue day) {
     return readings;
 }
 
-std::string DayTitle(const Chart& chart, JulianValue day) {
+std::string DayTitle(const ChartContent& chart, JulianValue day) {
     std::string title = JulianToShortText(day);
     for (const ChartMark& mark : chart.Marks)
         if (mark.Day == day) title += ", " + mark.Name;
     return title;
 }
 
-std::string DayInWords(const Chart& chart, JulianValue day) {
+std::string DayInWords(const ChartContent& chart, JulianValue day) {
     std::string words = DayTitle(chart, day);
     for (const Reading& reading : ReadingsOn(chart, day))
         words += "; " + chart.Series[reading.Series].Name + ' ' + reading.Text;
     return words;
 }
 
-JulianValue LatestDay(const Chart& chart) {
+JulianValue LatestDay(const ChartContent& chart) {
     JulianValue latest = 0;
     for (const ChartSeries& series : chart.Series) {
         if (series.Points.empty()) continue;
@@ -88,7 +88,7 @@ JulianValue LatestDay(const Chart& chart) {
     return latest;
 }
 
-std::string ChartCsv(const Chart& chart) {
+std::string ChartCsv(const ChartContent& chart) {
     std::string text = Cell(chart.DayAxis);
     for (const ChartSeries& series : chart.Series) text += ',' + Cell(series.Name + " (" + series.Unit + ')');
     text += '\n';

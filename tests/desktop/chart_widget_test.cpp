@@ -1,4 +1,4 @@
-#include "desktop/chart/chart_view.h"
+#include "desktop/chart/chart_widget.h"
 
 #include <QTest>
 #include <QWheelEvent>
@@ -6,38 +6,22 @@
 #include <gtest/gtest.h>
 
 #include "desktop/chart/chart_canvas.h"
-#include "desktop/chart/chart_reading.h"
 
 namespace veraqua {
 
-/// 200 days from 1 April 2026, with marks that crowd at the end.
-static Chart Season() {
+/// 200 days from 1 April 2026.
+static ChartContent Season() {
     constexpr JulianValue planted = JulianFromDate(4, 1, 2026);
-    Chart chart;
+    ChartContent chart;
     chart.DayAxis = "Day";
     chart.Series = {{"Water, \"all\"", "mm", ChartSeries::Look::Line, {}},
                     {"Rain", "mm", ChartSeries::Look::Bars, {{planted + 199, 25.5}}}};
     for (int day = 0; day < 200; ++day) chart.Series[0].Points.push_back({planted + day, 180 - day / 4.0});
-    for (const int day : {0, 0, 30, 60, 185, 196, 197, 199, 400})
-        chart.Marks.push_back({"Next cutting", planted + day});
     return chart;
 }
 
-TEST(ChartLayout, TextsKeepApartAndInsideAtEverySize) {
-    const DayRange season = SeasonOf(Season());
-    for (const QSizeF size : {QSizeF(420, 300), QSizeF(900, 500), QSizeF(1400, 700)})
-        for (const double length : {7, 20, 90, 200}) {
-            const auto texts = LayOut(Season(), {season.Last - length, season.Last}, size, QFont()).Texts;
-            for (const ChartLayout::Words& words : texts) {
-                EXPECT_TRUE(QRectF(QPointF(), size).contains(words.Box)) << words.Text.toStdString();
-                for (const ChartLayout::Words& other : texts)
-                    EXPECT_TRUE(&words == &other || !words.Box.intersects(other.Box)) << words.Text.toStdString();
-            }
-        }
-}
-
-TEST(ChartView, ZoomsAboutThePointerWithinTheSeasonAndReadsADayByKeys) {
-    ChartView view;
+TEST(ChartWidget, ZoomsAboutThePointerWithinTheSeasonAndReadsADayByKeys) {
+    ChartWidget view;
     view.ShowChart(Season());
     view.show();
     auto& canvas = dynamic_cast<ChartCanvas&>(*view.findChild<QChartView*>());
@@ -58,12 +42,6 @@ TEST(ChartView, ZoomsAboutThePointerWithinTheSeasonAndReadsADayByKeys) {
     EXPECT_EQ(plot.Days().Last, plot.Season().Last) << "the day moves into sight";
     QTest::keyClick(&view, Qt::Key_Home);
     EXPECT_EQ(plot.Days(), plot.Season());
-}
-
-TEST(ChartCsv, HasALineADayAndNothingWhereASeriesHasNoValue) {
-    const std::string csv = ChartCsv(Season());
-    EXPECT_TRUE(csv.starts_with("Day,\"Water, \"\"all\"\" (mm)\",Rain (mm)\n04-01-2026,180,\n"));
-    EXPECT_TRUE(csv.ends_with("10-16-2026,130.5,\n10-17-2026,130.25,25.5\n"));
 }
 
 }  // namespace veraqua

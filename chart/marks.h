@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QRectF>
+#include <cstddef>
 #include <functional>
 #include <vector>
 
-#include "screen/chart.h"
+#include "core/shown/chart.h"
 
 namespace veraqua {
 

@@ -1,4 +1,4 @@
-#include "desktop/chart/chart_days.h"
+#include "chart/days.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,7 +30,7 @@ std::vector<JulianValue> EveryMonths(DayRange range, int step) {
 
 }  // namespace
 
-DayRange SeasonOf(const Chart& chart) {
+DayRange SeasonOf(const ChartContent& chart) {
     constexpr double half = 0.5;
     bool any = false;
     DayRange season;
@@ -41,6 +41,12 @@ DayRange SeasonOf(const Chart& chart) {
             any = true;
         }
     return season;
+}
+
+ChartContent CutTo(ChartContent chart, DayRange days) {
+    for (ChartSeries& series : chart.Series)
+        std::erase_if(series.Points, [&](const ChartSeries::Point& point) { return !days.Holds(point.Day); });
+    return chart;
 }
 
 DayRange RangeWithin(DayRange season, DayRange wished) {

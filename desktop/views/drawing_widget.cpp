@@ -1,4 +1,4 @@
-#include "desktop/views/drawing_view.h"
+#include "desktop/views/drawing_widget.h"
 
 #include <QPainter>
 #include <QStringList>
@@ -59,14 +59,14 @@ QFont FontOf(const Drawing& drawing, QFont font) {
 
 }  // namespace
 
-DrawingView::DrawingView(QWidget* parent) : QWidget(parent) {
+DrawingWidget::DrawingWidget(QWidget* parent) : QWidget(parent) {
     // The drawing is fitted into whatever room there is. A height that follows the width would make a wide window high.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 }
 
-DrawingView::~DrawingView() = default;
+DrawingWidget::~DrawingWidget() = default;
 
-void DrawingView::ShowDrawing(const Drawing& drawing) {
+void DrawingWidget::ShowDrawing(const Drawing& drawing) {
     drawing_ = drawing;
     QStringList texts;
     for (const Shape& shape : drawing.Shapes)
@@ -76,14 +76,14 @@ void DrawingView::ShowDrawing(const Drawing& drawing) {
     update();
 }
 
-QSize DrawingView::sizeHint() const {
+QSize DrawingWidget::sizeHint() const {
     constexpr double usual = 1.2;  // pixels for a unit
     return QSizeF(drawing_.Width * usual + 2 * PaperMargin, drawing_.Height * usual + 2 * PaperMargin).toSize();
 }
 
-QSize DrawingView::minimumSizeHint() const { return sizeHint() / 2; }
+QSize DrawingWidget::minimumSizeHint() const { return sizeHint() / 2; }
 
-QRectF DrawingView::Paper() const {
+QRectF DrawingWidget::Paper() const {
     const QSizeF margins(2 * PaperMargin, 2 * PaperMargin);
     const QSizeF fitted = QSizeF(drawing_.Width, drawing_.Height).scaled(size() - margins, Qt::KeepAspectRatio);
     QRectF paper(QPointF(), fitted + margins);
@@ -91,7 +91,7 @@ QRectF DrawingView::Paper() const {
     return paper;
 }
 
-QSvgRenderer& DrawingView::Picture(const std::string& name) {
+QSvgRenderer& DrawingWidget::Picture(const std::string& name) {
     std::unique_ptr<QSvgRenderer>& picture = pictures_[name];
     if (!picture) {
         picture = std::make_unique<QSvgRenderer>(QString(":/pictures/%1.svg").arg(ToQt(name)));
@@ -100,7 +100,7 @@ QSvgRenderer& DrawingView::Picture(const std::string& name) {
     return *picture;
 }
 
-void DrawingView::paintEvent(QPaintEvent*) {
+void DrawingWidget::paintEvent(QPaintEvent*) {
     const QRectF paper = Paper();
     if (drawing_.Width <= 0 || drawing_.Height <= 0 || paper.width() <= 2 * PaperMargin) return;
     QPainter painter(this);

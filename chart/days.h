@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "core/calendar.h"
-#include "screen/chart.h"
+#include "core/shown/chart.h"
 
 /// The scales of a chart. On the day axis a day lies at its Julian Value and reaches half a day to both sides.
 namespace veraqua {
@@ -18,7 +18,10 @@ struct DayRange {
 };
 
 /// The days of all series, each as a whole; an empty range if there are none. Marks don't count.
-DayRange SeasonOf(const Chart& chart);
+DayRange SeasonOf(const ChartContent& chart);
+
+/// The chart without the values of other days; its marks stay.
+ChartContent CutTo(ChartContent chart, DayRange days);
 
 /// `wished`, moved and if need be shortened into `season`, and no shorter than a week or the season.
 DayRange RangeWithin(DayRange season, DayRange wished);

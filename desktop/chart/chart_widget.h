@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "screen/chart.h"
+#include "core/shown/chart.h"
 
 class QLabel;
 class QMenu;
@@ -15,11 +15,11 @@ enum class ChartFormat;
 
 /// A chart to explore, with the mouse (`ChartCanvas`) or by keys: the arrows point at one day after the other (with
 /// Ctrl at one week), the page keys move along the season, + and - zoom, Home shows all of it and Ctrl+S saves it.
-class ChartView : public QWidget {
+class ChartWidget : public QWidget {
   public:
-    explicit ChartView(QWidget* parent = nullptr);
+    explicit ChartWidget(QWidget* parent = nullptr);
 
-    void ShowChart(const Chart& chart);
+    void ShowChart(const ChartContent& chart);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -1,4 +1,4 @@
-#include "desktop/chart/chart_view.h"
+#include "desktop/chart/chart_widget.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -9,9 +9,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "chart/readings.h"
 #include "desktop/chart/chart_canvas.h"
 #include "desktop/chart/chart_export.h"
-#include "desktop/chart/chart_reading.h"
 #include "desktop/text.h"
 
 namespace veraqua {
@@ -24,7 +24,7 @@ constexpr int Week = 7;
 
 }  // namespace
 
-ChartView::ChartView(QWidget* parent)
+ChartWidget::ChartWidget(QWidget* parent)
     : QWidget(parent),
       canvas_(new ChartCanvas(this, [this] { DaysChanged(); })),
       hint_(new QLabel("Drag or turn the wheel to zoom, drag with Shift to move", this)),
@@ -41,7 +41,7 @@ ChartView::ChartView(QWidget* parent)
     DaysChanged();
 }
 
-void ChartView::FillMenus() {
+void ChartWidget::FillMenus() {
     const auto add = [this](const QString& text, ChartFormat format) {
         QAction* action = formats_->addAction(text);
         connect(action, &QAction::triggered, this, [this, format] { Save(format); });
@@ -60,7 +60,7 @@ void ChartView::FillMenus() {
     setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-void ChartView::LayOut() {
+void ChartWidget::LayOut() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(2, 0, 0, 0);
     row->addWidget(hint_, 1);
@@ -73,15 +73,15 @@ void ChartView::LayOut() {
     column->addLayout(row);
 }
 
-void ChartView::ShowChart(const Chart& chart) {
+void ChartWidget::ShowChart(const ChartContent& chart) {
     if (canvas_->ShowChart(chart)) Describe(LatestDay(chart));
 }
 
-QSize ChartView::sizeHint() const { return {900, 540}; }
+QSize ChartWidget::sizeHint() const { return {900, 540}; }
 
-QSize ChartView::minimumSizeHint() const { return {420, 300}; }
+QSize ChartWidget::minimumSizeHint() const { return {420, 300}; }
 
-void ChartView::keyPressEvent(QKeyEvent* event) {
+void ChartWidget::keyPressEvent(QKeyEvent* event) {
     const ChartPlot* plot = canvas_->Plot();
     if (plot == nullptr) return event->ignore();
     const DayRange days = plot->Days();
@@ -100,43 +100,43 @@ void ChartView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void ChartView::focusInEvent(QFocusEvent* event) {
+void ChartWidget::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
     canvas_->ShowFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                        reason == Qt::ShortcutFocusReason);
 }
 
-void ChartView::focusOutEvent(QFocusEvent* event) {
+void ChartWidget::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     canvas_->ShowFocus(false);
 }
 
-void ChartView::resizeEvent(QResizeEvent* event) {
+void ChartWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     // Where it doesn't fit the hint stays away.
     const int buttons = wholeSeason_->sizeHint().width() + save_->sizeHint().width();
     hint_->setVisible(width() > hint_->sizeHint().width() + buttons + 3 * layout()->spacing());
 }
 
-void ChartView::Save(ChartFormat format) {
+void ChartWidget::Save(ChartFormat format) {
     const ChartPlot* plot = canvas_->Plot();
     if (plot != nullptr) AskAndSaveChart(this, format, {&plot->Shown(), plot->Days(), canvas_->size()});
 }
 
-void ChartView::DaysChanged() {
+void ChartWidget::DaysChanged() {
     const ChartPlot* plot = canvas_->Plot();
     wholeSeason_->setEnabled(plot != nullptr && plot->Days() != plot->Season());
 }
 
-void ChartView::Step(int days) {
+void ChartWidget::Step(int days) {
     const ChartPlot* plot = canvas_->Plot();
     const std::optional<JulianValue> pointed = plot->PointedDay();
     canvas_->PointAt(pointed ? *pointed + days : LatestDay(plot->Shown()));
     Describe(plot->PointedDay().value_or(0));
 }
 
-void ChartView::Describe(JulianValue day) {
+void ChartWidget::Describe(JulianValue day) {
     const ChartPlot* plot = canvas_->Plot();
     if (plot == nullptr || day == 0) return setAccessibleDescription({});
     setAccessibleDescription(ToQt(DayInWords(plot->Shown(), day)));

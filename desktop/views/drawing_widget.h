@@ -13,12 +13,12 @@ namespace veraqua {
 
 /// Shows a drawing as large as the widget allows, centred, on light paper in a dark theme too: its inks are made for
 /// that.
-class DrawingView : public QWidget {
+class DrawingWidget : public QWidget {
   public:
-    explicit DrawingView(QWidget* parent = nullptr);
-    ~DrawingView() override;
-    DrawingView(const DrawingView&) = delete;
-    DrawingView& operator=(const DrawingView&) = delete;
+    explicit DrawingWidget(QWidget* parent = nullptr);
+    ~DrawingWidget() override;
+    DrawingWidget(const DrawingWidget&) = delete;
+    DrawingWidget& operator=(const DrawingWidget&) = delete;
 
     void ShowDrawing(const Drawing& drawing);
 

@@ -1,4 +1,4 @@
-#include "desktop/chart/chart_marks.h"
+#include "chart/marks.h"
 
 #include <algorithm>
 

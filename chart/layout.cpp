@@ -1,12 +1,11 @@
-#include "desktop/chart/chart_layout.h"
+#include "chart/layout.h"
 
-#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "chart/marks.h"
 #include "core/base/numbers.h"
-#include "desktop/chart/chart_marks.h"
-#include "desktop/text.h"
 
 namespace veraqua {
 
@@ -23,6 +22,8 @@ constexpr double NamesShare = 0.45;     // of the plot's height, for the names a
 constexpr double LinesPerTick = 2.6;    // of text, between two ticks of the left axis
 constexpr double LinesPerAmount = 1.5;  // the same on the right axis
 constexpr double WidthsPerTick = 1.3;   // of a date, between two ticks of the day axis
+constexpr double DayShare = 0.8;        // of a day's width, for its bars
+constexpr double ThinnestBar = 2;       // pixels
 
 /// An axis of numbers from `Low` to `High` with a tick at each `Step`.
 struct NumberAxis {
@@ -43,9 +44,9 @@ struct NumberAxis {
         return ticks;
     }
 
-    QString TextOf(double tick) const {
+    std::string TextOf(double tick) const {
         const auto decimals = static_cast<std::size_t>(std::max(0.0, -std::floor(std::log10(Step))));
-        return ToQt(Masked(tick, decimals == 0 ? "0" : "0." + std::string(decimals, '0')));
+        return Masked(tick, decimals == 0 ? "0" : "0." + std::string(decimals, '0'));
     }
 };
 
@@ -55,7 +56,7 @@ struct Extent {
     double High = 0;
     bool Any = false;
 
-    Extent(const Chart& chart, bool ofBars) {
+    Extent(const ChartContent& chart, bool ofBars) {
         for (const ChartSeries& series : chart.Series)
             if ((series.Shape == Look::Bars) == ofBars) Add(series);
     }
@@ -71,38 +72,40 @@ struct Extent {
 };
 
 /// "Rain, Irrigation (in)", the series of the axis to the right.
-QString AmountTitle(const Chart& chart) {
-    QString names;
-    QString unit;
+std::string AmountTitle(const ChartContent& chart) {
+    std::string names;
+    std::string unit;
     for (const ChartSeries& series : chart.Series) {
         if (series.Shape != Look::Bars || series.Points.empty()) continue;
-        names += (names.isEmpty() ? "" : ", ") + ToQt(series.Name);
-        unit = ToQt(series.Unit);
+        names += (names.empty() ? "" : ", ") + series.Name;
+        unit = series.Unit;
     }
-    return QString("%1 (%2)").arg(names, unit);
+    return names + " (" + unit + ')';
 }
 
-QFont Bold(QFont font) {
-    font.setBold(true);
-    return font;
+/// As much of `text` as fits `room`, with "…" for what is left out.
+std::string Elided(const std::string& text, double room, const std::function<double(const std::string&)>& widthOf) {
+    if (widthOf(text) <= room) return text;
+    constexpr unsigned continues = 0b10;  // the top bits of each byte of a UTF-8 character but its first
+    std::string cut = text;
+    while (!cut.empty() && widthOf(cut + "…") > room) {
+        while (cut.size() > 1 && static_cast<unsigned char>(cut.back()) >> 6U == continues) cut.pop_back();
+        cut.pop_back();
+    }
+    return cut + "…";
 }
 
 /// Builds a layout from the edges to the middle.
 class Builder {
   public:
-    Builder(const Chart& chart, QSizeF size, const QFont& font)
-        : chart_(&chart),
-          size_(size),
-          metrics_(font),
-          boldMetrics_(Bold(font)),
-          values_(chart, false),
-          amounts_(chart, true) {}
+    Builder(const ChartContent& chart, double width, double height, const ChartType& type)
+        : chart_(&chart), width_(width), height_(height), type_(&type), values_(chart, false), amounts_(chart, true) {}
 
     ChartLayout Build(DayRange season, DayRange shown) {
         PutTitle();
         PutLegend();
         PutAxisTitles();
-        layout_.Plot = QRectF(QPointF(Margin, top_), QPointF(size_.width() - Margin, BottomOfPlot()));
+        layout_.Plot = {Margin, top_, Right() - Margin, BottomOfPlot() - top_};
         layout_.NamesBottom = top_;
         LeaveSides();
         layout_.Days = season;
@@ -112,26 +115,27 @@ class Builder {
         PutAmounts();
         PutDays();
         PutMarks();
+        PutBars();
         return std::move(layout_);
     }
 
   private:
-    double LineHeight() const { return metrics_.height(); }
+    double LineHeight() const { return type_->Height; }
     double LaneHeight() const { return LineHeight() + 3; }
-    double Right() const { return size_.width() - Margin; }
-    double WidthOf(const QString& text) const { return std::ceil(metrics_.horizontalAdvance(text)); }
+    double Right() const { return width_ - Margin; }
+    double WidthOf(const std::string& text) const { return std::ceil(type_->WidthOf(text)); }
     double DateWidth() const { return WidthOf("00-00-00"); }
 
-    void Put(QPointF corner, const QString& text, Tone tone) {
-        if (!text.isEmpty()) layout_.Texts.push_back({QRectF(corner, QSizeF(WidthOf(text), LineHeight())), text, tone});
+    void Put(double left, double top, const std::string& text, Tone tone) {
+        if (!text.empty()) layout_.Texts.push_back({{left, top, WidthOf(text), LineHeight()}, text, tone});
     }
 
     void PutTitle() {
         if (chart_->Title.empty()) return;
-        const QString text = boldMetrics_.elidedText(ToQt(chart_->Title), Qt::ElideRight, Right() - Margin);
-        const QSizeF textSize(std::ceil(boldMetrics_.horizontalAdvance(text)), boldMetrics_.height());
-        layout_.Texts.push_back({QRectF(QPointF(Margin, top_), textSize), text, Tone::Title});
-        top_ += boldMetrics_.height() + Gap;
+        const std::string text = Elided(chart_->Title, Right() - Margin, type_->BoldWidthOf);
+        const double width = std::ceil(type_->BoldWidthOf(text));
+        layout_.Texts.push_back({{Margin, top_, width, type_->BoldHeight}, text, Tone::Title});
+        top_ += type_->BoldHeight + Gap;
     }
 
     /// From left to right, in as many rows as it takes.
@@ -139,14 +143,14 @@ class Builder {
         double x = Margin;
         for (std::size_t i = 0; i < chart_->Series.size(); ++i) {
             if (chart_->Series[i].Points.empty()) continue;
-            const QString name = ToQt(chart_->Series[i].Name);
+            const std::string& name = chart_->Series[i].Name;
             const double width = SampleWidth + Gap + WidthOf(name);
             if (x > Margin && x + width > Right()) {
                 x = Margin;
                 top_ += LineHeight() + Gap / 2;
             }
-            layout_.Samples.push_back({QRectF(x, top_, SampleWidth, LineHeight()), i});
-            Put({x + SampleWidth + Gap, top_}, name, Tone::Plain);
+            layout_.Samples.push_back({{x, top_, SampleWidth, LineHeight()}, i});
+            Put(x + SampleWidth + Gap, top_, name, Tone::Plain);
             x += width + 3 * Gap;
         }
         if (!layout_.Samples.empty()) top_ += LineHeight() + 2 * Gap;
@@ -154,12 +158,12 @@ class Builder {
 
     /// Above the axes, where they read best; of two that don't fit beside each other the right one is a row lower.
     void PutAxisTitles() {
-        const QString left = metrics_.elidedText(ToQt(chart_->ValueAxis), Qt::ElideRight, Right() - Margin);
-        Put({Margin, top_}, left, Tone::Quiet);
+        const std::string left = Elided(chart_->ValueAxis, Right() - Margin, type_->WidthOf);
+        Put(Margin, top_, left, Tone::Quiet);
         if (amounts_.Any) {
-            const QString right = metrics_.elidedText(AmountTitle(*chart_), Qt::ElideRight, Right() - Margin);
+            const std::string right = Elided(AmountTitle(*chart_), Right() - Margin, type_->WidthOf);
             if (WidthOf(left) + WidthOf(right) + 3 * Gap > Right() - Margin) top_ += LineHeight();
-            Put({Right() - WidthOf(right), top_}, right, Tone::Quiet);
+            Put(Right() - WidthOf(right), top_, right, Tone::Quiet);
         }
         top_ += LineHeight() + Gap;
     }
@@ -167,11 +171,11 @@ class Builder {
     double BottomOfPlot() const {
         const double dates = LineHeight() * 1.5 + 1;
         const double axisTitle = chart_->DayAxis.empty() ? 0 : LineHeight();
-        return std::max(top_ + 1, size_.height() - Margin - dates - axisTitle);
+        return std::max(top_ + 1, height_ - Margin - dates - axisTitle);
     }
 
     /// Of the plot without the names.
-    double ValueHeight() const { return std::max(1.0, layout_.Plot.bottom() - layout_.NamesBottom); }
+    double ValueHeight() const { return std::max(1.0, layout_.Plot.Bottom() - layout_.NamesBottom); }
 
     NumberAxis ValueAxis() const {
         return {values_.Low, values_.High, std::max(1.0, ValueHeight() / (LineHeight() * LinesPerTick))};
@@ -185,8 +189,8 @@ class Builder {
         const double least = DateWidth() / 2 - Margin;
         const double left = std::max(least, WidestTick(ValueAxis()) + Gap);
         const double right = amounts_.Any ? std::max(least, WidestTick(AmountAxis()) + Gap) : least;
-        layout_.Plot.adjust(left, 0, -right, 0);
-        layout_.Plot.setWidth(std::max(1.0, layout_.Plot.width()));
+        layout_.Plot.Left += left;
+        layout_.Plot.Width = std::max(1.0, layout_.Plot.Width - left - right);
     }
 
     double WidestTick(const NumberAxis& axis) const {
@@ -200,70 +204,83 @@ class Builder {
         int lanes = 0;
         for (const PlacedMark& mark : PlacedMarks()) lanes = std::max(lanes, mark.Lane + 1);
         const double needed = lanes * LaneHeight() + Gap;
-        layout_.NamesBottom = layout_.Plot.top() + std::min(needed, layout_.Plot.height() * NamesShare);
+        layout_.NamesBottom = layout_.Plot.Top + std::min(needed, layout_.Plot.Height * NamesShare);
     }
 
     void PutValues() {
-        const QRectF& plot = layout_.Plot;
+        const ChartBox& plot = layout_.Plot;
         const NumberAxis axis = ValueAxis();
         layout_.ValueLow = axis.Low;
-        layout_.ValueHigh = axis.Low + (axis.High - axis.Low) * plot.height() / ValueHeight();
+        layout_.ValueHigh = axis.Low + (axis.High - axis.Low) * plot.Height / ValueHeight();
         for (const double tick : axis.Ticks()) {
             const double y = layout_.YOf(tick, layout_.ValueLow, layout_.ValueHigh);
-            const QString text = axis.TextOf(tick);
-            layout_.Grid.append({plot.left(), y, plot.right(), y});
-            Put({plot.left() - Gap - WidthOf(text), y - LineHeight() / 2}, text, Tone::Quiet);
+            const std::string text = axis.TextOf(tick);
+            layout_.Grid.push_back({plot.Left, y, plot.Right(), y});
+            Put(plot.Left - Gap - WidthOf(text), y - LineHeight() / 2, text, Tone::Quiet);
         }
     }
 
     void PutAmounts() {
         if (!amounts_.Any) return;
-        const QRectF& plot = layout_.Plot;
+        const ChartBox& plot = layout_.Plot;
         const NumberAxis axis = AmountAxis();
-        layout_.AmountHigh = axis.High * plot.height() / (ValueHeight() * BarShare);
+        layout_.AmountHigh = axis.High * plot.Height / (ValueHeight() * BarShare);
         for (const double tick : axis.Ticks()) {
             const double y = layout_.YOf(tick, 0, layout_.AmountHigh);
-            layout_.Grid.append({plot.right(), y, plot.right() + Gap / 2, y});
-            Put({plot.right() + Gap, y - LineHeight() / 2}, axis.TextOf(tick), Tone::Quiet);
+            layout_.Grid.push_back({plot.Right(), y, plot.Right() + Gap / 2, y});
+            Put(plot.Right() + Gap, y - LineHeight() / 2, axis.TextOf(tick), Tone::Quiet);
         }
     }
 
     /// Below the lower half of a number at the end of its axis.
-    double DatesTop() const { return layout_.Plot.bottom() + LineHeight() / 2 + 1; }
+    double DatesTop() const { return layout_.Plot.Bottom() + LineHeight() / 2 + 1; }
 
     void PutDays() {
-        const QRectF& plot = layout_.Plot;
-        const int most = static_cast<int>(plot.width() / (DateWidth() * WidthsPerTick));
+        const ChartBox& plot = layout_.Plot;
+        const int most = static_cast<int>(plot.Width / (DateWidth() * WidthsPerTick));
         for (const JulianValue day : TickDays(layout_.Days, most)) {
             const double x = layout_.XOf(day);
-            const QString text = ToQt(JulianToShortText(day));
-            layout_.Grid.append({x, plot.top(), x, plot.bottom() + Gap / 2});
-            Put({x - WidthOf(text) / 2, DatesTop()}, text, Tone::Quiet);
+            const std::string text = JulianToShortText(day);
+            layout_.Grid.push_back({x, plot.Top, x, plot.Bottom() + Gap / 2});
+            Put(x - WidthOf(text) / 2, DatesTop(), text, Tone::Quiet);
         }
-        const QString title = ToQt(chart_->DayAxis);
-        if (title.isEmpty()) return;
-        Put({plot.center().x() - WidthOf(title) / 2, DatesTop() + LineHeight()}, title, Tone::Quiet);
+        const std::string& title = chart_->DayAxis;
+        Put(plot.Left + plot.Width / 2 - WidthOf(title) / 2, DatesTop() + LineHeight(), title, Tone::Quiet);
     }
 
     std::vector<PlacedMark> PlacedMarks() const {
         return PlaceMarks(
             chart_->Marks, [this](JulianValue day) { return layout_.XOf(day); },
-            [this](const ChartMark& mark) { return WidthOf(ToQt(mark.Name)); }, layout_.Plot.left(),
-            layout_.Plot.right());
+            [this](const ChartMark& mark) { return WidthOf(mark.Name); }, layout_.Plot.Left, layout_.Plot.Right());
     }
 
     void PutMarks() {
         for (const PlacedMark& mark : PlacedMarks()) {
-            const double top = layout_.Plot.top() + 2 + mark.Lane * LaneHeight();
-            layout_.Marks.append({mark.X, top, mark.X, layout_.Plot.bottom()});
-            Put({mark.Left, top}, ToQt(chart_->Marks[mark.Mark].Name), Tone::MarkName);
+            const double top = layout_.Plot.Top + 2 + mark.Lane * LaneHeight();
+            layout_.Marks.push_back({mark.X, top, mark.X, layout_.Plot.Bottom()});
+            Put(mark.Left, top, chart_->Marks[mark.Mark].Name, Tone::MarkName);
         }
     }
 
-    const Chart* chart_;
-    QSizeF size_;
-    QFontMetricsF metrics_;
-    QFontMetricsF boldMetrics_;
+    void PutBars() {
+        for (std::size_t i = 0; i < chart_->Series.size(); ++i)
+            if (chart_->Series[i].Shape == Look::Bars) layout_.AllBars.push_back({i, 0, 0});
+        if (layout_.AllBars.empty()) return;
+        const double pixel = layout_.Days.Length() / layout_.Plot.Width;
+        const auto count = static_cast<double>(layout_.AllBars.size());
+        const double width = std::max(DayShare / count, ThinnestBar * pixel);
+        double offset = -width * count / 2;
+        for (ChartLayout::Bars& bars : layout_.AllBars) {
+            bars.Offset = offset;
+            bars.Width = width;
+            offset += width;
+        }
+    }
+
+    const ChartContent* chart_;
+    double width_;
+    double height_;
+    const ChartType* type_;
     Extent values_;
     Extent amounts_;
     ChartLayout layout_;
@@ -272,10 +289,10 @@ class Builder {
 
 }  // namespace
 
-ChartLayout LayOut(const Chart& chart, DayRange shown, QSizeF size, const QFont& font) {
+ChartLayout LayOut(const ChartContent& chart, DayRange shown, double width, double height, const ChartType& type) {
     const DayRange season = SeasonOf(chart);
     if (season.Length() <= 0) return {};
-    return Builder(chart, size, font).Build(season, RangeWithin(season, shown));
+    return Builder(chart, width, height, type).Build(season, RangeWithin(season, shown));
 }
 
 }  // namespace veraqua
