@@ -10,14 +10,14 @@ namespace {
 constexpr double ShortestRange = 7;
 constexpr double DaysPerMonth = 30.4;
 
-std::vector<JulianValue> EveryDays(DayRange range, int step) {
+std::vector<JulianValue> EveryDays(AxisRange range, int step) {
     std::vector<JulianValue> days;
     const int first = static_cast<int>(std::ceil(range.First / step)) * step;
     for (int day = first; day <= range.Last; day += step) days.push_back(day);
     return days;
 }
 
-std::vector<JulianValue> EveryMonths(DayRange range, int step) {
+std::vector<JulianValue> EveryMonths(AxisRange range, int step) {
     std::vector<JulianValue> days;
     const Date from = DateFromJulian(static_cast<JulianValue>(std::floor(range.First)));
     int months = (from.Year * 12 + from.Month - 1) / step * step;
@@ -30,10 +30,10 @@ std::vector<JulianValue> EveryMonths(DayRange range, int step) {
 
 }  // namespace
 
-DayRange SeasonOf(const ChartContent& chart) {
+AxisRange SeasonOf(const ChartContent& chart) {
     constexpr double half = 0.5;
     bool any = false;
-    DayRange season;
+    AxisRange season;
     for (const ChartSeries& series : chart.Series)
         for (const ChartSeries::Point& point : series.Points) {
             season.First = any ? std::min(season.First, point.Day - half) : point.Day - half;
@@ -43,26 +43,26 @@ DayRange SeasonOf(const ChartContent& chart) {
     return season;
 }
 
-ChartContent CutTo(ChartContent chart, DayRange days) {
+ChartContent CutTo(ChartContent chart, AxisRange days) {
     for (ChartSeries& series : chart.Series)
         std::erase_if(series.Points, [&](const ChartSeries::Point& point) { return !days.Holds(point.Day); });
     return chart;
 }
 
-DayRange RangeWithin(DayRange season, DayRange wished) {
+AxisRange RangeWithin(AxisRange season, AxisRange wished) {
     const double length = std::min(season.Length(), std::max(wished.Length(), ShortestRange));
     const double centre = (wished.First + wished.Last) / 2;
     const double first = std::clamp(centre - length / 2, season.First, season.Last - length);
     return {first, first + length};
 }
 
-DayRange Zoomed(DayRange season, DayRange shown, double factor, double day) {
+AxisRange Zoomed(AxisRange season, AxisRange shown, double factor, double day) {
     const double shortest = std::min(season.Length(), ShortestRange);
     const double possible = std::clamp(factor, shortest / shown.Length(), season.Length() / shown.Length());
     return RangeWithin(season, {day - (day - shown.First) * possible, day + (shown.Last - day) * possible});
 }
 
-std::vector<JulianValue> TickDays(DayRange range, int most) {
+std::vector<JulianValue> TickDays(AxisRange range, int most) {
     if (range.Length() <= 0 || most < 1) return {};
     for (const int step : {1, 2, 7, 14})
         if (range.Length() / step <= most) return EveryDays(range, step);

@@ -101,7 +101,7 @@ class Builder {
     Builder(const ChartContent& chart, double width, double height, const ChartType& type)
         : chart_(&chart), width_(width), height_(height), type_(&type), values_(chart, false), amounts_(chart, true) {}
 
-    ChartLayout Build(DayRange season, DayRange shown) {
+    ChartLayout Build(AxisRange season, AxisRange shown) {
         PutTitle();
         PutLegend();
         PutAxisTitles();
@@ -289,8 +289,8 @@ class Builder {
 
 }  // namespace
 
-ChartLayout LayOut(const ChartContent& chart, DayRange shown, double width, double height, const ChartType& type) {
-    const DayRange season = SeasonOf(chart);
+ChartLayout LayOut(const ChartContent& chart, AxisRange shown, double width, double height, const ChartType& type) {
+    const AxisRange season = SeasonOf(chart);
     if (season.Length() <= 0) return {};
     return Builder(chart, width, height, type).Build(season, RangeWithin(season, shown));
 }

@@ -61,7 +61,7 @@ struct ChartLayout {
     };
 
     ChartBox Plot;
-    DayRange Days;        ///< of the plot from side to side
+    AxisRange Days;       ///< of the plot from side to side
     double ValueLow = 0;  ///< of the plot from bottom to top, on the axis to the left
     double ValueHigh = 1;
     double AmountHigh = 0;   ///< the same on the axis of the bars to the right, from 0; 0 if there are no bars
@@ -81,6 +81,6 @@ struct ChartLayout {
 
 /// Lays `chart` out on `width` by `height`, with the days of `shown`. Names have their room by the whole season, so
 /// that nothing moves up or down while the user zooms.
-ChartLayout LayOut(const ChartContent& chart, DayRange shown, double width, double height, const ChartType& type);
+ChartLayout LayOut(const ChartContent& chart, AxisRange shown, double width, double height, const ChartType& type);
 
 }  // namespace veraqua

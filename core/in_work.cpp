@@ -1,6 +1,6 @@
 #include "core/in_work.h"
 
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 
 namespace veraqua {

@@ -6,6 +6,7 @@
 
 #include "core/directory.h"
 #include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "fuzz/fuzz_target.h"
 #include "fuzz/support.h"

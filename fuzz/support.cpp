@@ -11,7 +11,7 @@
 
 #include "core/base/failure.h"
 #include "core/directory.h"
-#include "core/field_file.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "data/embedded.h"
 #include "engine/season_run.h"

@@ -47,7 +47,7 @@ bool ChartCanvas::ShowChart(const ChartContent& chart) {
     return true;
 }
 
-void ChartCanvas::ShowDays(DayRange days) {
+void ChartCanvas::ShowDays(AxisRange days) {
     if (Plot() == nullptr) return;
     plot_->ShowDays(days);
     daysChanged_();
@@ -69,7 +69,7 @@ void ChartCanvas::PointAt(JulianValue day) {
     if (Plot() == nullptr) return;
     const double pointed = std::clamp<double>(day, plot_->Season().First + 0.5, plot_->Season().Last - 0.5);
     plot_->PointAt(static_cast<JulianValue>(RoundHalfEven(pointed)));
-    const DayRange days = plot_->Days();
+    const AxisRange days = plot_->Days();
     if (pointed - 0.5 < days.First) Move(pointed - 0.5 - days.First);
     if (pointed + 0.5 > days.Last) Move(pointed + 0.5 - days.Last);
 }

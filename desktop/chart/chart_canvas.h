@@ -23,7 +23,7 @@ class ChartCanvas : public QChartView {
     /// Null while there is no chart with a day.
     ChartPlot* Plot() const { return plot_ != nullptr && plot_->Season().Length() > 0 ? plot_ : nullptr; }
 
-    void ShowDays(DayRange days);
+    void ShowDays(AxisRange days);
     void ShowSeason();
     void Zoom(double factor, double day);
     void Move(double days);
@@ -56,7 +56,7 @@ class ChartCanvas : public QChartView {
     bool focused_ = false;
     Dragging dragging_ = Dragging::Nothing;
     QPointF dragStart_;
-    DayRange dragDays_;  ///< shown when it began
+    AxisRange dragDays_;  ///< shown when it began
 };
 
 }  // namespace veraqua

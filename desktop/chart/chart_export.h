@@ -14,7 +14,7 @@ namespace veraqua {
 /// As the user sees it.
 struct ChartPicture {
     const ChartContent* Shown = nullptr;
-    DayRange Days;
+    AxisRange Days;
     QSize Size;
 };
 

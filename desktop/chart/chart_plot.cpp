@@ -85,7 +85,7 @@ void ChartPlot::AddSeries(std::size_t series) {
     shown->attachAxis(added.Shape == Look::Bars ? amountAxis_ : valueAxis_);
 }
 
-void ChartPlot::ShowDays(DayRange days) {
+void ChartPlot::ShowDays(AxisRange days) {
     days_ = RangeWithin(season_, days);
     Arrange();
 }

@@ -25,11 +25,11 @@ class ChartPlot : public QChart {
     ChartPlot& operator=(const ChartPlot&) = delete;
 
     const ChartContent& Shown() const { return chart_; }
-    DayRange Season() const { return season_; }
+    AxisRange Season() const { return season_; }
 
     /// The days from side to side: at first the season. `ShowDays` keeps within it.
-    DayRange Days() const { return days_; }
-    void ShowDays(DayRange days);
+    AxisRange Days() const { return days_; }
+    void ShowDays(AxisRange days);
 
     void Restyle(const QPalette& palette, const QFont& font);
 
@@ -52,8 +52,8 @@ class ChartPlot : public QChart {
     ChartContent chart_;
     QPalette palette_;
     QFont font_;
-    DayRange season_;
-    DayRange days_;
+    AxisRange season_;
+    AxisRange days_;
     ChartLayout layout_;
     QValueAxis* dayAxis_;
     QValueAxis* valueAxis_;

@@ -84,7 +84,7 @@ QSize ChartWidget::minimumSizeHint() const { return {420, 300}; }
 void ChartWidget::keyPressEvent(QKeyEvent* event) {
     const ChartPlot* plot = canvas_->Plot();
     if (plot == nullptr) return event->ignore();
-    const DayRange days = plot->Days();
+    const AxisRange days = plot->Days();
     const double centre = plot->PointedDay().value_or(static_cast<JulianValue>((days.First + days.Last) / 2));
     const int step = event->modifiers().testFlag(Qt::ControlModifier) ? Week : 1;
     switch (event->key()) {

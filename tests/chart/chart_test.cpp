@@ -39,7 +39,7 @@ bool Meet(const ChartBox& a, const ChartBox& b) {
 }  // namespace
 
 TEST(ChartLayout, TextsKeepApartAndInsideAtEverySize) {
-    const DayRange season = SeasonOf(Season());
+    const AxisRange season = SeasonOf(Season());
     for (const auto& [width, height] : {std::pair(420.0, 300.0), {900.0, 500.0}, {1400.0, 700.0}})
         for (const double length : {7, 20, 90, 200}) {
             const auto texts = LayOut(Season(), {season.Last - length, season.Last}, width, height, Type()).Texts;
@@ -80,11 +80,11 @@ TEST(ChartLayout, DaysAndValuesLieOnTheirAxes) {
 }
 
 TEST(ChartDays, AreZoomedAboutAPointWithinTheSeason) {
-    const DayRange season{0, 200};
-    EXPECT_EQ(Zoomed(season, season, 0.5, 50), (DayRange{25, 125}));
+    const AxisRange season{0, 200};
+    EXPECT_EQ(Zoomed(season, season, 0.5, 50), (AxisRange{25, 125}));
     EXPECT_EQ(Zoomed(season, {25, 125}, 2, 0), season) << "an end is met";
-    EXPECT_EQ(Zoomed(season, {100, 110}, 0.1, 100), (DayRange{100, 107})) << "no shorter than a week";
-    EXPECT_EQ(RangeWithin(season, {190, 230}), (DayRange{160, 200}));
+    EXPECT_EQ(Zoomed(season, {100, 110}, 0.1, 100), (AxisRange{100, 107})) << "no shorter than a week";
+    EXPECT_EQ(RangeWithin(season, {190, 230}), (AxisRange{160, 200}));
     const ChartContent cut = CutTo(Season(), {Planted + 20, Planted + 22});
     EXPECT_EQ(cut.Series[0].Points.size(), 3U);
     EXPECT_EQ(cut.Series[1].Points.size() + 10 * cut.Series[2].Points.size(), 10U);
