@@ -9,7 +9,8 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 find_program(CCACHE_PROGRAM ccache)
 mark_as_advanced(CCACHE_PROGRAM)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    # Without these it takes no file that begins with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE_PROGRAM}")
 endif()
 
 # Everything but the data's assembler is C++; a flag below is meant for that alone.
@@ -32,6 +33,7 @@ veraqua_compile_options(
     -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wimplicit-fallthrough -Wundef -Wunused -Wextra-semi
     -Wredundant-decls)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    veraqua_compile_options(-fpch-preprocess)  # so that the compiler cache sees through a precompiled header
     veraqua_compile_options(-Wmissing-declarations -Wduplicated-cond -Wduplicated-branches -Wlogical-op)
     # GCC 12 warns of overlapping copies inside std::string where there are none (GCC bug 105651).
     veraqua_compile_options(-Wno-restrict)
