@@ -107,7 +107,7 @@ void Save(frmAddWater& form, FieldLists lists) {
 }
 
 bool DateStands(JulianValue day) {
-    const std::optional<Refused> refused = WaterRefusedOn(day);
+    const std::optional<RefusedDay> refused = WaterRefusedOn(day);
     if (refused) TheScreen().Tell(refused->Text, refused->Title);
     return !refused;
 }
@@ -197,26 +197,26 @@ void cmdCancel_Click(frmAddWater& form) {
 
 }  // namespace
 
-std::optional<Refused> WaterRefusedOn(JulianValue day) {
+std::optional<RefusedDay> WaterRefusedOn(JulianValue day) {
     const JulianValue depletionSet = State.Updates[State.CurrentField];
     const JulianValue planted = State.Header().PlantDay;
     if (depletionSet > 0 && day <= depletionSet)
-        return Refused{
+        return RefusedDay{
             "Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' if you "
             "want to add water.",
             "Veraqua Warning"};
     if (State.DriedOutDay >= 1 && day >= State.DriedOutDay)
-        return Refused{
+        return RefusedDay{
             fmt::format("Your field dried out (99% water depletion) on {}.  Irrigation must be prior to that "
                         "date.",
                         JulianToShortText(State.DriedOutDay)),
             "Depletion Warning"};
     if (day < planted + 1)
-        return Refused{fmt::format("Use a Date after {}.  Dates on or prior to planting date are not permitted.",
+        return RefusedDay{fmt::format("Use a Date after {}.  Dates on or prior to planting date are not permitted.",
                                    JulianToShortText(State.IsHay ? planted + 1 : planted)),
                        "Invalid Water Date"};
     if (day > State.TodayJulian)
-        return Refused{fmt::format("Use a Date before {}.  Dates into the future are not permitted.",
+        return RefusedDay{fmt::format("Use a Date before {}.  Dates into the future are not permitted.",
                                    JulianToShortText(State.TodayJulian + 1)),
                        std::string(ProgramTitle)};
     return std::nullopt;

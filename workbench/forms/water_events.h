@@ -57,12 +57,12 @@ struct frmAddWater : Form {
 FormTable TableOf(frmAddWater& form);
 
 /// What is told to the user who is refused.
-struct Refused {
+struct RefusedDay {
     std::string Text;
     std::string Title;
 };
 
 /// Whether the field in work may get water on `day`, 0 if no date was read. Nothing if it may.
-std::optional<Refused> WaterRefusedOn(JulianValue day);
+std::optional<RefusedDay> WaterRefusedOn(JulianValue day);
 
 }  // namespace veraqua

@@ -44,7 +44,7 @@ TEST_F(SoilTest, AnIntervalIsTakenWithinItsBoundsAndWithRoomForItsZones) {
         AtSoil(FormName::frmCap, [text = typed](At& soil) { soil.Type("txtDepth", text).Click("cmdDepth"); });
         const std::string refused = "Depth Interval Error: Please enter a value between " + bounds;
         EXPECT_EQ(User.LastSaid(), bounds.empty() ? "" : refused) << typed;
-        EXPECT_EQ(Zones.ZoneTop, zoneTop) << typed;
+        EXPECT_EQ(Zones.Entry.ZoneTop, zoneTop) << typed;
         User.Told.clear();
         AtEntry().Click("cmd_Cancel");  // where leaving the form leads back to
     }
