@@ -45,6 +45,13 @@ class Entry {
     }
 
   private:
+    /// An option in the place of what the entry starts with.
+    struct Replacement {
+        const std::optional<std::string>& Given;
+        std::string& Taken;
+        std::optional<Refused> (*Check)(std::string_view);
+    };
+
     std::optional<Refused> TakeCrop() {
         const OrRefused<int> row = RowForNewField();
         if (!row.IsDone()) return row.Why();
@@ -69,26 +76,19 @@ class Entry {
         entry.Station = *station;
         if (std::optional<Refused> refused = CheckPlantDate(entry.PlantDate)) return refused;
         if (std::optional<Refused> refused = PickStation(*station, StationPick::Clicked)) return refused;
-        const auto any = [](std::string_view) { return std::optional<Refused>(); };
-        if (std::optional<Refused> refused = Take(options_.Efficiency, entry.Efficiency, CheckEfficiency))
-            return refused;
-        if (std::optional<Refused> refused = Take(options_.Mad, entry.Mad, CheckMad)) return refused;
-        if (std::optional<Refused> refused = Take(options_.MadCritical, entry.MadCritical, CheckMadCritical))
-            return refused;
-        if (std::optional<Refused> refused =
-                State.IsHay ? Take(options_.Root, entry.RootDepth, CheckHayRootDepth)
-                            : Take(options_.Root, entry.RootDepth, any))
-            return refused;
-        if (std::optional<Refused> refused = Take(options_.DryDays, entry.DryDays, CheckDryDays)) return refused;
+        // In the order of the boxes. Of an ordinary crop any root depth may stand in its box.
+        for (const auto& [given, taken, check] :
+             {Replacement{options_.Efficiency, entry.Efficiency, CheckEfficiency},
+              Replacement{options_.Mad, entry.Mad, CheckMad},
+              Replacement{options_.MadCritical, entry.MadCritical, CheckMadCritical},
+              Replacement{options_.Root, entry.RootDepth, State.IsHay ? CheckHayRootDepth : nullptr},
+              Replacement{options_.DryDays, entry.DryDays, CheckDryDays}}) {
+            if (!given) continue;
+            taken = *given;
+            if (check == nullptr) continue;
+            if (std::optional<Refused> refused = check(taken)) return refused;
+        }
         return DescribeField(ask_, entry);
-    }
-
-    /// Takes an entry that was given in the place of the one that it starts with.
-    template <class Check>
-    static std::optional<Refused> Take(const std::optional<std::string>& given, std::string& entry, Check check) {
-        if (!given) return std::nullopt;
-        entry = *given;
-        return check(entry);
     }
 
     OrRefused<EnteredSoil> Soil() {

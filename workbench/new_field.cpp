@@ -14,7 +14,6 @@
 #include "core/directory.h"
 #include "core/files/files.h"
 #include "core/state.h"
-#include "workbench/limits.h"
 
 namespace veraqua {
 
@@ -59,8 +58,8 @@ bool IdIsTaken(std::string_view typed) {
     // Blanks around a typed ID count: with them it is another one.
     const std::string whole = kept.UpperCase().Whole();
     const std::string compared = whole.substr(0, std::min(whole.size(), typed.size()));
-    return std::ranges::any_of(
-        RowsInUse(), [&](int row) { return State.Stat[row].FieldId.UpperCase().Text() == compared; });
+    return std::ranges::any_of(RowsInUse(),
+                               [&](int row) { return State.Stat[row].FieldId.UpperCase().Text() == compared; });
 }
 
 bool IsControlCharacter(char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }
@@ -68,8 +67,7 @@ bool IsControlCharacter(char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }
 std::optional<Refused> CheckFieldId(std::string_view typed) {
     if (Trimmed(typed).empty()) return Refused{"Please enter a Field ID Code!", "Missing Field ID", Given::FieldId};
     if (!Latin1FromUtf8(typed) || std::ranges::any_of(typed, IsControlCharacter))
-        return Refused{"The Field ID Code has a character that no field file can hold.", InputError,
-                       Given::FieldId};
+        return Refused{"The Field ID Code has a character that no field file can hold.", InputError, Given::FieldId};
     if (IdIsTaken(typed))
         return Refused{"You have already used this Field ID Code. Please select another!", "Duplicate Field ID",
                        Given::FieldId};
@@ -109,8 +107,7 @@ std::optional<Refused> StoreRootDepth(const FieldEntry& entry) {
     const double entered = Numeric(entry.RootDepth).value_or(0);
     const float depth = entered > 0 ? EnteredDepth(entered) : entry.CropRootMax;
     if (depth > entry.CropRootMax)
-        return Refused{"New value must be less than the default maximum rooting depth.", InputError,
-                       Given::RootDepth};
+        return Refused{"New value must be less than the default maximum rooting depth.", InputError, Given::RootDepth};
     State.Field.RootMax = depth;
     return std::nullopt;
 }
@@ -119,7 +116,7 @@ std::optional<Refused> StoreRootDepth(const FieldEntry& entry) {
 
 OrRefused<int> RowForNewField() {
     const int row = LowestFreeRow();
-    if (row == 0) return Refused{std::string(DirectoryFull)};
+    if (row == 0) return DirectoryIsFull();
     return row;
 }
 

@@ -43,6 +43,9 @@ inline void Tell(Ask& ask, const Refused& refused) {
     if (!refused.Text.empty()) ask.Tell(refused.Text, refused.Title);
 }
 
+/// There is no row for one field more.
+inline Refused DirectoryIsFull() { return {"Veraqua keeps at most 100 fields."}; }
+
 /// What a deed has done, or why it was not done.
 template <class Done>
 class OrRefused {

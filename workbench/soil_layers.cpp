@@ -132,8 +132,8 @@ std::optional<Refused> LayerEntry::CheckCapacity(std::size_t layer, std::string_
 
 std::optional<Refused> LayerEntry::CheckContent(std::size_t layer, std::string_view typed) const {
     if (SoilCopied) return std::nullopt;
-    return RefusedUnlessNumeric(
-        typed, {"Please enter a numeric value!", "Water Content Input Error", Given::Content, layer});
+    return RefusedUnlessNumeric(typed,
+                                {"Please enter a numeric value!", "Water Content Input Error", Given::Content, layer});
 }
 
 OrRefused<std::size_t> LayerEntry::NextLayer(const std::vector<std::string>& typed) const {
@@ -153,8 +153,7 @@ OrRefused<std::size_t> LayerEntry::NextLayer(const std::vector<std::string>& typ
 }
 
 OrRefused<EnteredSoil> LayerEntry::Soil(Ask& ask, const std::array<TypedWater, MostLayers>& typed) const {
-    if (!DepthIsFilled(ask, *this))
-        return Refused{"Please edit existing layers or add another one", "Veraqua Warning"};
+    if (!DepthIsFilled(ask, *this)) return Refused{"Please edit existing layers or add another one", "Veraqua Warning"};
     const OrRefused<std::size_t> top = TopLayer(LayerDepth);
     if (!top.IsDone()) return top.Why();
     EnteredSoil soil{.Profile = {.Bounds = Thicknesses(*this, *top)}, .Top = static_cast<int>(*top)};

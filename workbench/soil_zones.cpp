@@ -68,9 +68,9 @@ double ZoneEntry::SmallestInterval() const {
 
 std::optional<Refused> ZoneEntry::RefusedInterval(std::optional<double> interval) const {
     const auto between = [this](double smallest) {
-        return Refused{fmt::format("Please enter a value between {} and {}", Masked(smallest, "0.0"),
-                                   Masked(IntervalMax, "0.0")),
-                       "Depth Interval Error", Given::Interval};
+        return Refused{
+            fmt::format("Please enter a value between {} and {}", Masked(smallest, "0.0"), Masked(IntervalMax, "0.0")),
+            "Depth Interval Error", Given::Interval};
     };
     if (!interval || *interval < IntervalMin || *interval > IntervalMax) return between(IntervalMin);
     if (ZoneTopFor(*interval) >= MostZones) return between(SmallestInterval());

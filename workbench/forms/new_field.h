@@ -58,7 +58,7 @@ struct frmLoadField : Form {
 
     bool VariablePicked = false;  ///< soil format that was picked on the workbench
     float CropRootMax = 0;        ///< deepest root depth of the crop, m
-    CopiedSoil Copied;  ///< with which the soil form starts
+    CopiedSoil Copied;            ///< with which the soil form starts
 };
 
 FormTable TableOf(frmLoadField& form);

@@ -213,12 +213,12 @@ std::optional<RefusedDay> WaterRefusedOn(JulianValue day) {
             "Depletion Warning"};
     if (day < planted + 1)
         return RefusedDay{fmt::format("Use a Date after {}.  Dates on or prior to planting date are not permitted.",
-                                   JulianToShortText(State.IsHay ? planted + 1 : planted)),
-                       "Invalid Water Date"};
+                                      JulianToShortText(State.IsHay ? planted + 1 : planted)),
+                          "Invalid Water Date"};
     if (day > State.TodayJulian)
         return RefusedDay{fmt::format("Use a Date before {}.  Dates into the future are not permitted.",
-                                   JulianToShortText(State.TodayJulian + 1)),
-                       std::string(ProgramTitle)};
+                                      JulianToShortText(State.TodayJulian + 1)),
+                          std::string(ProgramTitle)};
     return std::nullopt;
 }
 
