@@ -9,10 +9,6 @@
 #include "cli/commands.h"
 #include "core/base/numbers.h"
 #include "core/state.h"
-#include "reports/forms/forms.h"
-#include "shell/forms/forms.h"
-#include "weather/forms/forms.h"
-#include "workbench/forms/forms.h"
 
 namespace veraqua {
 
@@ -358,10 +354,6 @@ class ProgramOptions {
 }  // namespace
 
 int RunProgram(int argumentCount, const char* const* arguments) {
-    AddWorkbenchForms();
-    AddReportForms();
-    AddWeatherForms();
-    AddShellForms();
     Session session;
     ProgramOptions options(session);
     try {

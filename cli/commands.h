@@ -7,7 +7,7 @@
 #include "cli/session.h"
 #include "workbench/water.h"
 
-/// What each command of veraqua-cli does. Each sets the state, calls the routines that the forms call, prints the
+/// What each command of veraqua-cli does. Each does the deeds that the forms do, prints the
 /// outcome and returns the exit status.
 namespace veraqua {
 

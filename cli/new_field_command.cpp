@@ -1,15 +1,16 @@
 #include <algorithm>
+#include <array>
 
 #include <fmt/format.h>
 
 #include "cli/commands.h"
 #include "core/base/numbers.h"
-#include "core/base/text.h"
+#include "core/crop_table.h"
+#include "core/field_file.h"
 #include "core/state.h"
-#include "screen/headless.h"
-#include "workbench/forms/field_menu.h"
-#include "workbench/forms/new_field.h"
-#include "workbench/forms/soil_copy.h"
+#include "workbench/new_field.h"
+#include "workbench/soil_layers.h"
+#include "workbench/soil_zones.h"
 
 namespace veraqua {
 
@@ -27,123 +28,124 @@ std::vector<std::string> Parts(const std::string& text) {
     return parts;
 }
 
-/// Position in `list` of the first row that `is`; -1 if there is none.
-template <class Is>
-int PositionOf(const ComboBox& list, Is is) {
-    const auto found = std::find_if(list.Items.begin(), list.Items.end(), is);
-    return found == list.Items.end() ? -1 : static_cast<int>(found - list.Items.begin());
-}
-
-std::string Nth(std::string_view control, std::size_t index) { return fmt::format("{}({})", control, index); }
-
-/// The user who enters a new field from the options of the command, form by form. He stops at the first objection.
+/// A new field from the options of the command, with the checks of its entry one after the other. The first that
+/// refuses ends it.
 class Entry {
   public:
-    Entry(Session& session, const NewFieldOptions& options)
-        : session_(session), options_(options), before_(session.Outside.Objections()) {}
+    Entry(Ask& ask, const NewFieldOptions& options) : ask_(ask), options_(options) {}
 
-    /// The row of the new field; nothing after a message.
-    std::optional<int> Make() {
-        session_.Outside.WhenShown(FormName::frmCopySoilData, [this] { AtSoilCopy(); });
-        session_.Outside.WhenShown(FormName::frmCapVar, [this] { AtLayers(); });
-        session_.Outside.WhenShown(FormName::frmCap, [this] { AtZones(); });
-        if (!PickCrop()) return std::nullopt;
-        const int row = State.CurrentField;
-        if (!Describe()) return std::nullopt;
-        At(FormName::frmLoadField).Click("cmd_OK");
-        return State.Stat[row].LastDay > 0 ? std::optional(row) : std::nullopt;
+    OrRefused<StartedField> Make() {
+        if (std::optional<Refused> refused = TakeCrop()) return *refused;
+        if (std::optional<Refused> refused = Describe()) return *refused;
+        if (!FindWeather(ask_)) return Refused{};
+        const OrRefused<EnteredSoil> soil = Soil();
+        if (!soil.IsDone()) return soil.Why();
+        return StartField(ask_, *soil);
     }
 
   private:
-    bool Stopped() const { return session_.Outside.Objections() > before_; }
+    /// An option in the place of what the entry starts with.
+    struct Replacement {
+        const std::optional<std::string>& Given;
+        std::string& Taken;
+        std::optional<Refused> (*Check)(std::string_view);
+    };
 
-    bool Refuse(const std::string& why) {
-        session_.Outside.Tell(why);
-        return false;
+    std::optional<Refused> TakeCrop() {
+        const OrRefused<int> row = RowForNewField();
+        if (!row.IsDone()) return row.Why();
+        LoadCropList(ask_);
+        const std::optional<int> crop = CropCalled(options_.Crop);
+        if (!crop) return Refused{fmt::format("There is no crop \"{}\" in the crop table.", options_.Crop)};
+        State.CurrentField = static_cast<std::int16_t>(*row);
+        ReadCrop(ask_, *crop);
+        return std::nullopt;
     }
 
-    bool PickCrop() {
-        Show(FormName::frmField);
-        At menu(FormName::frmField);
-        menu.Click("mnuNew");
-        if (Stopped()) return false;
-        const std::string_view name = Trimmed(options_.Crop);
-        const ComboBox& crops = The<frmField>().comboCrops;
-        int crop = PositionOf(crops, [name](const ListItem& item) { return Trimmed(item.Text) == name; });
-        if (crop < 0)
-            crop = PositionOf(
-                crops, [name](const ListItem& item) { return LowerCase(Trimmed(item.Text)) == LowerCase(name); });
-        if (crop < 0) return Refuse(fmt::format("There is no crop \"{}\" in the crop table.", options_.Crop));
-        menu.Pick("comboCrops", crop).Pick("Combo_Soils", options_.Layers.empty() ? 0 : 1).Click("cmd_OK");
-        return !Stopped();
-    }
-
-    /// Fills the form about all that isn't soil.
-    bool Describe() {
+    /// All that isn't soil.
+    std::optional<Refused> Describe() {
         if (!State.IsHay && (options_.MadCritical || options_.DryDays))
-            return Refuse("A critical MAD and a drying time are for hay only.");
-        At form(FormName::frmLoadField);
-        form.Type("txtFieldID", options_.Id).Type("TxtPlantDate", options_.PlantDate);
+            return Refused{"A critical MAD and a drying time are for hay only."};
         const std::optional<std::int32_t> station = WholeNumber(options_.Station);
         if (!station || *station < 1 || *station > static_cast<int>(State.DefaultStations.size()))
-            return Refuse(fmt::format("\"{}\" is no station of weathdef.dat.", options_.Station));
-        if (!form.Held()) form.Pick("ComboKESTA", *station - 1);
-        if (Stopped()) return false;
-        const auto type = [&form](std::string_view box, const std::optional<std::string>& text) {
-            if (text) form.Type(box, *text);
-        };
-        type("txtIrrEff", options_.Efficiency);
-        type("txtMAD", options_.Mad);
-        type("txtMADcritical", options_.MadCritical);
-        type(State.IsHay ? "txtRootD" : "txt_new_root", options_.Root);
-        type("txtDry", options_.DryDays);
-        if (options_.CopySoil) form.Click("Opt_current");
-        return !form.Held();
-    }
-
-    void AtSoilCopy() {
-        At form(FormName::frmCopySoilData);
-        form.Click("cmdPreview");
-        const int field = PositionOf(The<frmCopySoilData>().ComboField,
-                                     [this](const ListItem& item) { return item.Data == *options_.CopySoil; });
-        form.Pick("ComboField", field).Click("cmdSelect").Click("cmdOK");
-    }
-
-    void AtLayers() {
-        At form(FormName::frmCapVar);
-        for (std::size_t i = 0; i < options_.Layers.size(); ++i) {
-            if (i > 0) form.Click("cmdDepth");
-            if (form.Held() ||
-                !FormOf(FormName::frmCapVar).Find(Nth("txtRoot", std::min<std::size_t>(i, 5)))->Shared().Visible ||
-                i > 5)
-                return;
-            const std::vector<std::string> parts = Parts(options_.Layers[i]);
-            form.Type(Nth("txtRoot", i), parts[0]).Type(Nth("txtcap", i), parts[1]).Type(Nth("txtcon", i), parts[2]);
+            return Refused{fmt::format("\"{}\" is no station of weathdef.dat.", options_.Station)};
+        FieldEntry entry = StartingEntry();
+        entry.FieldId = options_.Id;
+        entry.PlantDate = options_.PlantDate;
+        entry.Station = *station;
+        if (std::optional<Refused> refused = CheckPlantDate(entry.PlantDate)) return refused;
+        if (std::optional<Refused> refused = PickStation(*station, StationPick::Clicked)) return refused;
+        // In the order of the boxes. Of an ordinary crop any root depth may stand in its box.
+        for (const auto& [given, taken, check] :
+             {Replacement{options_.Efficiency, entry.Efficiency, CheckEfficiency},
+              Replacement{options_.Mad, entry.Mad, CheckMad},
+              Replacement{options_.MadCritical, entry.MadCritical, CheckMadCritical},
+              Replacement{options_.Root, entry.RootDepth, State.IsHay ? CheckHayRootDepth : nullptr},
+              Replacement{options_.DryDays, entry.DryDays, CheckDryDays}}) {
+            if (!given) continue;
+            taken = *given;
+            if (check == nullptr) continue;
+            if (std::optional<Refused> refused = check(taken)) return refused;
         }
-        form.Click("cmdOK");
+        return DescribeField(ask_, entry);
     }
 
-    void AtZones() {
-        const int atOpening = session_.Outside.Objections();
-        At form(FormName::frmCap);
-        if (options_.Interval) form.Type("txtDepth", *options_.Interval).Click("cmdDepth");
-        for (std::size_t i = 0; i < options_.Zones.size() && !form.Held(); ++i) {
-            const ControlEntry* zone = FormOf(FormName::frmCap).Find(Nth("txtcap", i));
-            if (zone == nullptr || !zone->Shared().Visible) {
-                // An interval that was refused has been told of.
-                if (session_.Outside.Objections() == atOpening)
-                    Refuse(fmt::format("The interval gives {} zones, not {}.", i, options_.Zones.size()));
-                return;
-            }
-            const std::vector<std::string> parts = Parts(options_.Zones[i]);
-            form.Type(Nth("txtcap", i), parts[0]).Type(Nth("txtcon", i), parts[1]);
+    OrRefused<EnteredSoil> Soil() {
+        CopiedSoil copied;
+        if (options_.CopySoil) copied = CopySoilOf(LoadFieldFile(*options_.CopySoil));
+        const bool variable = options_.CopySoil ? copied.IsVariable() : !options_.Layers.empty();
+        return variable ? Layers(copied) : Zones(copied);
+    }
+
+    OrRefused<EnteredSoil> Layers(const CopiedSoil& copied) {
+        LayerEntry entry(State.Header().RootMax);
+        std::array<TypedWater, MostLayers> water;
+        std::vector<std::string> thicknesses;
+        if (copied.SoilCopied) {
+            const std::vector<StartingLayer> start = entry.StartFrom(copied);
+            std::ranges::transform(start, water.begin(), &StartingLayer::Water);
         }
-        form.Click("cmdOK");
+        for (const std::string& given : options_.Layers) {
+            const std::size_t layer = thicknesses.size();
+            if (layer > 0)
+                if (const auto next = entry.NextLayer(thicknesses); !next.IsDone()) return next.Why();
+            const std::vector<std::string> parts = Parts(given);
+            thicknesses.push_back(parts[0]);
+            water[layer] = {parts[1], parts[2]};
+            if (std::optional<Refused> refused = entry.TakeThickness(ask_, layer, thicknesses[layer])) return *refused;
+            if (std::optional<Refused> refused = entry.CheckCapacity(layer, parts[1])) return *refused;
+            if (std::optional<Refused> refused = entry.CheckContent(layer, parts[2])) return *refused;
+        }
+        // Under roots of less than half a unit nothing may be left of a layer.
+        for (std::size_t layer = 0; layer < thicknesses.size(); ++layer)
+            if (std::optional<Refused> refused = entry.TakeThickness(ask_, layer, thicknesses[layer])) return *refused;
+        return entry.Soil(ask_, water);
     }
 
-    Session& session_;
+    OrRefused<EnteredSoil> Zones(const CopiedSoil& copied) {
+        ZoneEntry entry(State.Header().RootMax);
+        std::string interval = options_.Interval.value_or("");
+        TypedZones water;
+        if (copied.SoilCopied) {
+            StartingZones start = entry.StartFrom(ask_, copied);
+            interval = start.IntervalText;
+            water = start.Water;
+        } else if (const std::optional<Refused> refused = entry.TakeInterval(Numeric(interval))) {
+            if (!options_.Zones.empty()) return *refused;
+            Tell(ask_, *refused);  // and once more where the soil is taken
+        }
+        const std::size_t zones = static_cast<std::size_t>(entry.ZoneTop + 1);
+        for (std::size_t zone = 0; zone < options_.Zones.size(); ++zone) {
+            if (zone >= zones)
+                return Refused{fmt::format("The interval gives {} zones, not {}.", zones, options_.Zones.size())};
+            const std::vector<std::string> parts = Parts(options_.Zones[zone]);
+            water[zone] = {parts[0], parts[1]};
+        }
+        return entry.Soil(ask_, interval, water);
+    }
+
+    Ask& ask_;
     const NewFieldOptions& options_;
-    int before_;
 };
 
 }  // namespace
@@ -153,11 +155,11 @@ int RunFieldNew(Session& session, const NewFieldOptions& options) {
     if (options.CopySoil && !IsField(session, *options.CopySoil)) return ExitRefused;
     // Where the run fails, the default weather that was taken for it goes as well.
     files::ChangeSet changes;
-    const std::optional<int> row = Entry(session, options).Make();
+    const OrRefused<StartedField> started = Entry(session.Outside, options).Make();
     changes.Commit();
-    if (!row) return ExitRefused;
-    PrintRow(session, *row);
-    const std::optional<RunOutcome> outcome = The<frmLoadField>().FirstRun;
+    if (!started.IsDone()) return session.Refuse(started.Why());
+    PrintRow(session, started->Row);
+    const RunOutcome outcome = started->FirstRun;
     return outcome == RunOutcome::Done || outcome == RunOutcome::NothingToUpdate ? ExitDone : ExitRefused;
 }
 

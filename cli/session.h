@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/cli_screen.h"
+#include "cli/cli_ask.h"
 #include "cli/json_forms.h"
 #include "core/files/files.h"
 #include "workbench/refused.h"
@@ -33,7 +33,7 @@ struct GlobalOptions {
 class Session {
   public:
     GlobalOptions Options;
-    CliScreen Outside;
+    CliAsk Outside;
 
     /// Takes today and the answer from the options. False after a message if a date was refused.
     bool Prepare();

@@ -64,7 +64,7 @@ std::optional<DayRange> RangeOfImport(Session& session, const ImportOptions& opt
 }
 
 /// Fetches the text of `year` from the network, as the download window does.
-bool Fetch(CliScreen& outside, int year) {
+bool Fetch(CliAsk& outside, int year) {
     const HttpReply reply = HttpGet(NetworkUrl(year), [&outside](std::string_view state) { outside.ShowState(state); });
     if (reply.Succeeded)
         StoreNetworkText(year, reply.Body);

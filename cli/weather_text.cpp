@@ -6,7 +6,7 @@
 
 #include "core/base/text_table.h"
 #include "core/state.h"
-#include "weather/forms/day_rows.h"
+#include "weather/day_rows.h"
 
 namespace veraqua {
 

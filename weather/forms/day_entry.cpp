@@ -13,7 +13,7 @@
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "weather/coverage.h"
-#include "weather/forms/day_rows.h"
+#include "weather/day_rows.h"
 #include "weather/reference_et.h"
 #include "weather/weather_file.h"
 

@@ -18,7 +18,7 @@
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "weather/forms/day_rows.h"
+#include "weather/day_rows.h"
 #include "weather/forms/station_list.h"
 #include "weather/weather_file.h"
 

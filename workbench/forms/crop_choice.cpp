@@ -1,12 +1,11 @@
 #include "workbench/forms/crop_choice.h"
 
 #include "core/crop_table.h"
-#include "core/directory.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/forms/field_choice.h"
-#include "workbench/refused.h"
+#include "workbench/new_field.h"
 
 namespace veraqua {
 
@@ -31,11 +30,11 @@ void SetEntryVisible(frmField& form, bool visible) {
 }  // namespace
 
 void mnuNew_Click(frmField& form) {
-    const int row = LowestFreeRow();
-    if (row == 0) return Tell(TheScreen(), DirectoryIsFull());
+    const OrRefused<int> row = RowForNewField();
+    if (!row.IsDone()) return Tell(TheScreen(), row.Why());
     SelectNothing(form);
     ListCrops(form.comboCrops);
-    State.CurrentField = static_cast<std::int16_t>(row);
+    State.CurrentField = static_cast<std::int16_t>(*row);
     form.cmd_Cancel.Visible = true;
     SetEntryVisible(form, true);
     form.Combo_Soils.Clear();

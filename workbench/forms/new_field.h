@@ -1,10 +1,8 @@
 #pragma once
 
-#include <optional>
-
-#include "engine/season_run.h"
 #include "screen/form.h"
-#include "workbench/forms/soil_copy.h"
+#include "workbench/soil_copy.h"
+#include "workbench/soil_entry.h"
 
 /// The entry of a new field: everything but its soil. Until the soil form is confirmed the field stands in no file,
 /// only in the header in memory and in an unused row of the directory.
@@ -60,15 +58,13 @@ struct frmLoadField : Form {
 
     bool VariablePicked = false;  ///< soil format that was picked on the workbench
     float CropRootMax = 0;        ///< deepest root depth of the crop, m
-    CopiedSoil Copied;
-    std::optional<RunOutcome> FirstRun;  ///< what came of the first run, once the field has been made
+    CopiedSoil Copied;            ///< with which the soil form starts
 };
 
 FormTable TableOf(frmLoadField& form);
 
-/// Makes the new field's file from the header and `soil` and runs it for the first time, as one set of changes; then
-/// ends the entry, `soilForm` too, and shows the field on the workbench. RunTimeFailure, with the entry still open and
-/// nothing written, where the run fails.
-void StartField(const SoilProfile& soil, FormName soilForm);
+/// Makes the new field with its soil, ends the entry, `soilForm` too, and shows the field on the workbench.
+/// RunTimeFailure, with the entry still open and nothing written, where its first run fails.
+void FinishEntry(const EnteredSoil& soil, FormName soilForm);
 
 }  // namespace veraqua

@@ -7,7 +7,6 @@
 #include "reports/soil_preview.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
-#include "workbench/forms/new_field.h"
 
 namespace veraqua {
 
@@ -66,16 +65,7 @@ void cmdSelect_Click(frmCopySoilData& form) {
         TheScreen().Tell("Please click on a crop to preview it first!");
         return;
     }
-    const HeaderCommon& header = form.Previewed->Header();
-    const SoilProfile& soil = form.Previewed->Soil;
-    The<frmLoadField>().Copied = {.SoilCopied = true,
-                                  .CopiedDepths = soil.Bounds,
-                                  .CopiedCapacity = soil.Capacity,
-                                  .CopiedContent = soil.Content,
-                                  .CopiedCapTop = header.CapacityTop,
-                                  .CopiedConTop = header.ContentTop,
-                                  .CopiedInterval1 = header.CapacityInterval,
-                                  .CopiedInterval2 = header.ContentInterval};
+    form.Chosen = CopySoilOf(*form.Previewed);
     form.Selected = true;
 }
 

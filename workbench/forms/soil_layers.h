@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "core/field_file.h"
 #include "screen/form.h"
+#include "workbench/soil_layers.h"
 
-/// The soil of a new field as up to six layers of free thickness. Thicknesses are entered in inches or mm.
+/// The window in which the soil of a new field is entered as layers.
 namespace veraqua {
 
 struct frmCapVar : Form {
@@ -14,12 +14,12 @@ struct frmCapVar : Form {
     Label lblEnter;
     Label lblEnter2;
     Label lblMaximum;
-    std::array<Label, 6> lblRootDepth;
-    std::array<TextBox, 6> txtRoot;
-    std::array<Label, 6> lblCapacity;
-    std::array<TextBox, 6> txtcap;
-    std::array<Label, 6> lblContent;
-    std::array<TextBox, 6> txtcon;
+    std::array<Label, MostLayers> lblRootDepth;
+    std::array<TextBox, MostLayers> txtRoot;
+    std::array<Label, MostLayers> lblCapacity;
+    std::array<TextBox, MostLayers> txtcap;
+    std::array<Label, MostLayers> lblContent;
+    std::array<TextBox, MostLayers> txtcon;
     Drawing sh_soil;
     Label lblCumm;
     Button cmdDepth{"New Soil Layer"};
@@ -29,9 +29,7 @@ struct frmCapVar : Form {
     Button cmdCancel{"Cancel", "Cancel crop initialization & Return"};
     StatusBar StatusBar1;
 
-    std::int16_t MaxDepth = 0;  ///< deepest root depth: inches, or a tenth of the millimetres
-    std::int16_t CumDepth = 0;  ///< sum of the thicknesses, in their unit
-    LayerBounds LayerDepth{};   ///< thicknesses as entered; 0: none
+    LayerEntry Entry;
 };
 
 FormTable TableOf(frmCapVar& form);

@@ -2,15 +2,13 @@
 
 #include <array>
 
-#include "core/field_file.h"
 #include "screen/form.h"
+#include "workbench/soil_zones.h"
 
-/// The soil of a new field as zones of one thickness, the depth interval, which is entered in inches or mm.
+/// The window in which the soil of a new field is entered as zones of one thickness.
 namespace veraqua {
 
 struct frmCap : Form {
-    static constexpr int MostZones = 11;
-
     Label lblDate;
     Label lblMaximum;
     Label lblEnter;
@@ -27,9 +25,7 @@ struct frmCap : Form {
     Button cmdCancel{"Cancel"};
     StatusBar StatusBar1;
 
-    double IntervalMin = 0;  ///< bounds of the interval, as entered
-    double IntervalMax = 0;
-    int ZoneTop = -1;  ///< index of the last zone; -1: no interval has been accepted
+    ZoneEntry Entry;
 };
 
 FormTable TableOf(frmCap& form);

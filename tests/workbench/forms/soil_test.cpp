@@ -33,63 +33,35 @@ struct SoilTest : NewFieldTest {
     }
 };
 
-TEST_F(SoilTest, AnIntervalIsTakenWithinItsBoundsAndWithRoomForItsZones) {
-    // Maize roots to 1 m: an eleventh is 3.579 inches or 90.91 mm; the metric bound is a tenth of that.
-    using Row = std::tuple<bool, const char*, std::string, int>;  // English?, typed, bounds if refused, last zone
-    for (const auto& [english, typed, bounds, zoneTop] :
-         {Row{true, "3.5", "3.6 and 396.0", -1}, Row{true, "3.6", "", 10}, Row{true, "396.1", "3.6 and 396.0", -1},
-          Row{true, "x", "3.6 and 396.0", -1}, Row{true, "39.37", "", 1}, Row{false, "9", "9.1 and 1000.0", -1},
-          Row{false, "90.9", "91.0 and 1000.0", -1}, Row{false, "91", "", 10}, Row{false, "1000", "", 1}}) {
-        State.EnglishUnits = english;
-        AtSoil(FormName::frmCap, [text = typed](At& soil) { soil.Type("txtDepth", text).Click("cmdDepth"); });
-        const std::string refused = "Depth Interval Error: Please enter a value between " + bounds;
-        EXPECT_EQ(User.LastSaid(), bounds.empty() ? "" : refused) << typed;
-        EXPECT_EQ(Zones.ZoneTop, zoneTop) << typed;
-        User.Told.clear();
-        AtEntry().Click("cmd_Cancel");  // where leaving the form leads back to
-    }
+TEST_F(SoilTest, TheZonesOfAnIntervalAreShownAndWhatIsWrongIsSelected) {
+    AtSoil(FormName::frmCap, [this](At& soil) {
+        const auto refused = [&](const std::string& said, const std::string& focused) {
+            EXPECT_EQ(User.LastSaid(), said);
+            EXPECT_EQ(User.FocusedControls.back(), "frmCap." + focused + " (selected)");
+        };
+        soil.Click("cmdOK");
+        refused("Depth Interval Error: Please enter a value between 3.6 and 396.0", "txtDepth");
+        soil.Type("txtDepth", "20").Click("cmdDepth");
+        EXPECT_TRUE(Zones.txtcon[1].Visible && !Zones.txtcon[2].Visible);
+        EXPECT_EQ(Zones.lblCapacity[1].Caption, "Capacity from 20 to 40 in.");
+        soil.Type("txtcap(0)", "1.5").Click("cmdOK");
+        refused("Water Capacity Input Error: Please enter a Capacity Value equal to or greater than 0.1 inches/foot.",
+                "txtcap(1)");
+        soil.Type("txtcap(1)", "1.5").Type("txtcon(0)", "1.5").Type("txtcon(1)", "1.6").Click("cmdOK");
+        refused("Water Content Input Error: Please enter a value between 0 and 1.51", "txtcon(1)");
+    });
 }
 
-TEST_F(SoilTest, CapacityAndContentOfZonesHaveTheirBounds) {
-    using Row = std::tuple<bool, const char*, const char*, std::string>;  // English?, entered, what is said
-    const std::string tooLow = "Water Capacity Input Error: Please enter a Capacity Value equal to or greater than ";
-    const std::string error = "Water Content Input Error: Please enter a value ";
-    // 1.5 and 1.6 in/ft are stored as 125 and 133 mm/m, which are 1.5 and 1.596 in/ft.
-    for (const auto& [english, capacity, content, said] :
-         {Row{true, "0.099", "0", tooLow + "0.1 inches/foot."}, Row{true, "0.1", "0", ""},
-          Row{true, "1.5", "1.511", error + "between 0 and 1.51"}, Row{true, "1.5", "-1", error + "between 0 and 1.51"},
-          Row{true, "1.6", "1.601", error + "less than or equal to 1.6"}, Row{true, "1.6", "1.6", ""},
-          Row{false, "6.9", "0", tooLow + "7 mm/meter."}, Row{false, "7", "7", ""},
-          Row{false, "140", "140.1", error + "between 0 and 140"},
-          Row{false, "140", "", error + "between 0 and 140"}}) {
-        State.EnglishUnits = english;
-        AtSoil(FormName::frmCap, [ofCapacity = capacity, ofContent = content](At& soil) {
-            soil.Type("txtDepth", State.EnglishUnits ? "20" : "600").Click("cmdDepth");
-            for (const std::string zone : {"(0)", "(1)"})
-                soil.Type("txtcap" + zone, ofCapacity).Type("txtcon" + zone, ofContent);
-            soil.Click("cmdOK");
-        });
-        EXPECT_EQ(User.LastSaid(), said) << capacity << ' ' << content;
-        EXPECT_EQ(IsLoaded(FormName::frmLoadField), !said.empty());
-        User.Told.clear();
-        Unload(FormName::frmLoadField);
-    }
-}
-
-TEST_F(SoilTest, ThicknessesAreWholeAndEndAtTheRootDepth) {
+TEST_F(SoilTest, UpToSixLayersAreBegunOneAfterTheOther) {
     AtSoil(FormName::frmCapVar, [this](At& soil) {
-        const char* below = "For your information...: You have entered soil data below the maximum root depth.";
-        using Row = std::tuple<const char*, bool, const char*, const char*>;  // typed, held, then shown and said
-        for (const auto& [typed, held, shown, said] :
-             {Row{"x", true, "x", "Input Error: Please enter a numeric value"},
-              Row{"0.5", true, "0", "Layer Interval Error: Please enter a value greater than 0"},
-              Row{"12.5", false, "12", ""}, Row{"40", false, "39", below}, Row{"", false, "", ""},
-              Row{"5", false, "5", ""}}) {
-            User.Told.clear();
+        using Row = std::tuple<const char*, const char*, bool, const char*>;  // typed, shown then, held, last focus
+        for (const auto& [typed, shown, held, focus] :
+             {Row{"x", "x", true, "frmCapVar.txtRoot(0) (selected)"}, Row{"0.5", "0", true, "frmCapVar.txtRoot(0)"},
+              Row{"12.5", "12", false, "frmCapVar.txtRoot(0)"}, Row{"5", "5", false, "frmCapVar.txtRoot(0)"}}) {
             FormOf(FormName::frmCapVar).Focused = nullptr;
             EXPECT_EQ(At(soil).Type("txtRoot(0)", typed).Enter("txtcap(0)").Held(), held) << typed;
             EXPECT_EQ(Layers.txtRoot[0].Text, shown);
-            EXPECT_EQ(User.LastSaid(), said);
+            EXPECT_EQ(User.FocusedControls.back(), focus);
         }
         for (int layer = 0; layer < 6; ++layer) Layer(soil, layer, "5", "1.5", "1");
         EXPECT_EQ(Layers.lblCumm.Caption, "30 in.");

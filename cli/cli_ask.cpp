@@ -1,4 +1,4 @@
-#include "cli/cli_screen.h"
+#include "cli/cli_ask.h"
 
 #include <unistd.h>
 
@@ -28,45 +28,43 @@ std::string OneLine(std::string_view text) {
 
 }  // namespace
 
-void CliScreen::Tell(std::string_view text, std::string_view title, Icon) {
+void CliAsk::Tell(std::string_view text, std::string_view title, Icon) {
     ClearLine();
     Say(fmt::format("{}: {}\n", title, OneLine(text)));
-    ++objections_;
 }
 
-bool CliScreen::YesNo(std::string_view text, std::string_view title, Icon, bool) {
+bool CliAsk::YesNo(std::string_view text, std::string_view title, Icon, bool) {
     ClearLine();
     Say(fmt::format("{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no"));
-    if (!answer_) ++objections_;
     return answer_;
 }
 
-WeatherChoice CliScreen::ChooseWeatherSource(const DayRange& wanted) {
+WeatherChoice CliAsk::ChooseWeatherSource(const DayRange& wanted) {
     if (!answer_) return WeatherChoice::Left;
     BringDefaultWeather(wanted);
     return WeatherChoice::Taken;
 }
 
-void CliScreen::Progress(std::string_view what, std::size_t done, std::size_t total) {
+void CliAsk::Progress(std::string_view what, std::size_t done, std::size_t total) {
     if (done >= total)
         ClearLine();
     else
         ShowState(fmt::format("{} {} of {}", what, done + 1, total));
 }
 
-void CliScreen::ShowState(std::string_view text) {
+void CliAsk::ShowState(std::string_view text) {
     if (!progressAllowed_ || std::chrono::steady_clock::now() - begun_ < Patience || isatty(STDERR_FILENO) == 0) return;
     Say(fmt::format("\r\033[K{}", text));
     std::fflush(stderr);
     lineShown_ = true;
 }
 
-void CliScreen::ClearLine() {
+void CliAsk::ClearLine() {
     if (lineShown_) Say("\r\033[K");
     lineShown_ = false;
 }
 
-void CliScreen::EndProgram() {
+void CliAsk::EndProgram() {
     ClearLine();
     std::exit(1);
 }

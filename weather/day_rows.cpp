@@ -1,4 +1,4 @@
-#include "weather/forms/day_rows.h"
+#include "weather/day_rows.h"
 
 #include "core/base/numbers.h"
 #include "core/base/units.h"
