@@ -63,10 +63,10 @@ json Named(const FieldFile& file) {
             {"Irrigation", Named(file.Lists.Irrigation)}};
 }
 
-/// Singles may differ in their last bits, and water that has dried down to almost nothing by 1e-4 mm.
+/// Singles may differ in their last bits, and water that has dried down to almost nothing by 1e-6 mm.
 bool Same(const std::string& name, const json& is, const json& expected) {
     if (!is.is_number_float() || !expected.is_number_float()) return is == expected;
-    const double floor = name.ends_with("/Available") ? 1e-4 : 0;
+    const double floor = name.ends_with("/Available") ? 1e-6 : 0;
     return std::abs(is.get<double>() - expected.get<double>()) <=
            std::max(floor, 2e-6 * std::abs(expected.get<double>()));
 }
