@@ -6,8 +6,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -16,6 +14,7 @@
 #include "core/files/disk.h"
 #include "data/embedded.h"
 #include "tests/support/builders.h"
+#include "tests/support/bytes.h"
 #include "tests/support/data_directory.h"
 
 namespace veraqua {
@@ -27,24 +26,22 @@ struct Ran {
     std::string Err;
 };
 
-inline std::string TextOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// Runs the built program in a process of its own, for a minute at most, without the variables of the outside.
-/// No word may hold an apostrophe.
-inline Ran RunCli(const std::vector<std::string>& arguments) {
+/// Runs the built program in `directory`, in a process of its own, for a minute at most and without the variables of
+/// the outside. `line` is what a shell would be given behind the program's name.
+inline Ran RunLine(const std::string& line, const std::string& directory = ".") {
     const files::Descriptor out(memfd_create("out", 0));
     const files::Descriptor err(memfd_create("err", 0));
     const auto path = [](const files::Descriptor& file) { return "/proc/self/fd/" + std::to_string(file.Number()); };
-    std::vector<std::string> words{"timeout", "60", "env", "-i", VERAQUA_CLI};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::string command;
-    for (const std::string& word : words) command += "'" + word + "' ";
-    command += ">" + path(out) + " 2>" + path(err);
-    const int status = std::system(command.c_str());
+    const std::string command = "cd " + directory + " && { timeout 60 env -i " VERAQUA_CLI " " + line + "; }";
+    const int status = std::system((command + " >" + path(out) + " 2>" + path(err)).c_str());
     return {WEXITSTATUS(status), TextOf(path(out)), TextOf(path(err))};
+}
+
+/// The same, word for word. No word may hold an apostrophe.
+inline Ran RunCli(const std::vector<std::string>& words) {
+    std::string line;
+    for (const std::string& word : words) line += "'" + word + "' ";
+    return RunLine(line);
 }
 
 /// A data directory on 15 July 2003: maize in row 1, hay in row 2, both of station 06 and planted on 1 May, and the

@@ -156,5 +156,13 @@ TEST_F(FieldFilesOnDisk, AMissingFileIsToldAndADamagedOneIsAFailureAndStays) {
     EXPECT_EQ(Directory.Raw("FIELD2.DAT"), damaged);
 }
 
+TEST_F(FieldFilesOnDisk, OfAFieldThatIsPutToWorkNothingIsKnownFromTheOneBefore) {
+    AField().StoreAt(2);
+    State.MadExceededDay = State.DriedOutDay = JulianFromDate(6, 1, 2003);
+    ASSERT_TRUE(SelectField(User, 2));
+    EXPECT_EQ(State.MadExceededDay, 0);
+    EXPECT_EQ(State.DriedOutDay, 0);
+}
+
 }  // namespace
 }  // namespace veraqua

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -18,6 +20,12 @@ inline std::string Hex(const std::string& text) {
 /// `bytes` with `patch` laid over them from `offset` on.
 inline std::string Patched(std::string bytes, std::size_t offset, std::string_view patch) {
     return bytes.replace(offset, patch.size(), patch);
+}
+
+/// A file's bytes; none if there is no such file.
+inline std::string TextOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 }  // namespace veraqua
