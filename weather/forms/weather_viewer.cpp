@@ -146,10 +146,10 @@ std::vector<std::string> Headings() {
 PrintedDocument DocumentOf(const Listing& listing) {
     PrintedDocument document;
     document.Title = "Veraqua weather data";
-    AddLines(
-        document, Font{"Times Roman", 12},
-        {"", "", fmt::format("Veraqua weather data from {} to {}", listing.FirstDay(), listing.LastDay()), "",
-         Blanks(4) + "KESTA Name is: " + State.StationName, "KESTA Station # is: " + State.StationCode, "", "", ""});
+    AddLines(document, Font{"Times Roman", 12},
+             {"", "", fmt::format("Veraqua weather data from {} to {}", listing.FirstDay(), listing.LastDay()), "",
+              fmt::format("{}KESTA Name is: {}", Blanks(4), State.StationName),
+              "KESTA Station # is: " + State.StationCode, "", "", ""});
     const std::vector<std::string> headings = Headings();
     AddTable(document, TableFont, headings, headings.size());
     AddLines(document, TableFont, listing.Lines);
