@@ -48,8 +48,8 @@ TEST_F(ReportName, MeansAPathOrIsRefusedWithTheFirstReasonThatHolds) {
     ExpectRefused("", NoName);
     ExpectRefused(data + "winter\\July'.txt", NoDirectory(data + "winter"));
     ExpectRefused(data + "stat.dat/July.txt", NoDirectory(data + "stat.dat"));
-    ExpectRefused(std::string(255, ':') + "x", TooLong);
-    ExpectRefused(std::string(127, 'x') + "ÜÜ" + std::string(125, 'x'), TooLong);
+    ExpectRefused(std::string(256, ':'), TooLong);
+    ExpectRefused(std::string(127, 'x').append("ÜÜ").append(125, 'x'), TooLong);
     const std::string season = data + "season/";
     for (const char* name : {"July'.txt", "Ju:ly", "|"}) ExpectRefused(season + name, SpecialCharacter);
 }
