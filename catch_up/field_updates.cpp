@@ -5,7 +5,6 @@
 #include "core/directory.h"
 #include "core/field_in_work.h"
 #include "core/files/files.h"
-#include "core/in_work.h"
 #include "core/state.h"
 #include "engine/season_run.h"
 #include "weather/coverage.h"
@@ -19,7 +18,7 @@ template <class Update>
 UpdateStatus Guarded(Ask& ask, Update update) {
     try {
         return update();
-    } catch (const RunTimeFailure& failure) {
+    } catch (const RunTimeFailure& failure) {  // one field of many
         ask.Tell(failure.what(), ProgramTitle, Icon::Stop);
         return UpdateStatus::Failed;
     }
@@ -38,7 +37,7 @@ void AsOneSet(Ask& ask, Walk walk) {
         files::ChangeSet changes;
         walk();
         changes.Commit();
-    } catch (const RunTimeFailure&) {
+    } catch (const RunTimeFailure&) {  // memory is to say what the files say
         StartDirectory();
         before.Return(ask);
         throw;

@@ -1,6 +1,6 @@
 #include "catch_up/weather_check.h"
 
-#include "core/in_work.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "weather/coverage.h"
 

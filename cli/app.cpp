@@ -61,6 +61,7 @@ template <class Value>
 CLI::Option* TakeChoice(CLI::App* command, const std::string& name, Value& value,
                         const std::map<std::string, Value>& choices, const std::string& what) {
     std::vector<std::string> words;
+    words.reserve(choices.size());
     for (const auto& [word, choice] : choices) words.push_back(word);
     return command
         ->add_option_function<std::string>(

@@ -134,7 +134,7 @@ class Entry {
             if (!options_.Zones.empty()) return *refused;
             Tell(ask_, *refused);  // and once more where the soil is taken
         }
-        const std::size_t zones = static_cast<std::size_t>(entry.ZoneTop + 1);
+        const std::size_t zones = entry.ZoneTop < 0 ? 0 : static_cast<std::size_t>(entry.ZoneTop) + 1;
         for (std::size_t zone = 0; zone < options_.Zones.size(); ++zone) {
             if (zone >= zones)
                 return Refused{fmt::format("The interval gives {} zones, not {}.", zones, options_.Zones.size())};

@@ -22,7 +22,7 @@ void RereadRow(int row) {
     Rows rows;
     try {
         LoadFieldDirectory();
-    } catch (const RunTimeFailure&) {
+    } catch (const RunTimeFailure&) {  // then memory is all there is
         rows.TakeUp();
         return;
     }
@@ -65,6 +65,21 @@ std::optional<FieldFile> SelectField(Ask& ask, int row) {
     State.StationCode = State.Header().StationCode.Text();
     State.StationName = StationNameOf(State.StationCode);
     return file;
+}
+
+InWork::InWork() : field_(State.CurrentField), stationCode_(State.StationCode), stationName_(State.StationName) {}
+
+bool InWork::HasStation() const { return State.StationCode == stationCode_; }
+
+void InWork::ReturnStation() const {
+    State.StationCode = stationCode_;
+    State.StationName = stationName_;
+}
+
+void InWork::Return(Ask& ask) const {
+    State.CurrentField = 0;
+    if (field_ > 0) SelectField(ask, field_);
+    ReturnStation();
 }
 
 void RereadFieldInWork() {

@@ -57,7 +57,7 @@ struct ApplicationState {
     HayHeader Hay;              ///< its header, of hay
     float RainTotal = 0;        ///< mm, summed on every read of its file
     float IrrigationTotal = 0;  ///< mm, likewise
-    bool RainChanged = false;   ///< the user has removed records of this list
+    bool RainChanged = false;   ///< false: a change of a list says itself whether records have gone
     bool IrrigationChanged = false;
     bool CutsChanged = false;
 

@@ -8,7 +8,7 @@ void ForEachStoredField(Ask& ask, const std::function<void(int, const FieldFile&
     for (const int row : RowsInUse()) {
         try {
             if (const auto file = OpenField(ask, row)) InFile(FieldFileName(row), [&] { visit(row, *file); });
-        } catch (const RunTimeFailure& failure) {
+        } catch (const RunTimeFailure& failure) {  // one field of many
             ask.Tell(failure.what(), ProgramTitle, Icon::Stop);
         }
     }

@@ -25,7 +25,7 @@ bool Open(FormTable& form) {
         form.Loaded = true;
         try {
             if (form.Load) form.Load();
-        } catch (const RunTimeFailure&) {
+        } catch (const RunTimeFailure&) {  // a form that didn't load isn't there
             form.Loaded = false;
             throw;
         }
@@ -40,7 +40,7 @@ template <class Function>
 bool AsEvent(FormTable& form, Function function) {
     try {
         return function();
-    } catch (const RunTimeFailure& failure) {
+    } catch (const RunTimeFailure& failure) {  // ends the event, not the program
         RereadFieldInWork();
         TheScreen().Failed(failure);
         const bool nothingLeft =

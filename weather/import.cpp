@@ -111,7 +111,7 @@ class Importer {
     WeatherDay DayOfLine() const {
         try {
             return DayOf(*line_);
-        } catch (const RunTimeFailure& failure) {
+        } catch (const RunTimeFailure& failure) {  // the arithmetic knows no line
             FailIn(NetworkTextName(place_.Year),
                    fmt::format("the line of day {}: {}", line_->DayOfYear, failure.what()));
         }

@@ -64,7 +64,7 @@ OpenedFile Record(DataDirectory& directory, const Bytes& bytes, std::size_t room
             Fail(directory.Path(), fmt::format("has no room for {} bytes more", room));
         Flush(*journal);
         FlushDirectory(directory);
-    } catch (const RunTimeFailure& failure) {
+    } catch (const RunTimeFailure& failure) {  // half a journal is to go
         Discard(directory);
         if (ReadJournal(directory)) throw RecordedFailure(failure.what());  // the disk refuses even that
         throw;
@@ -108,7 +108,7 @@ void CommitChanges(DataDirectory& directory, const Changes& changes) {
     const OpenedFile journal = Record(directory, bytes, room);
     try {
         CarryOut(directory, journal, bytes.size(), changes);
-    } catch (const RunTimeFailure& failure) {
+    } catch (const RunTimeFailure& failure) {  // after the decision
         throw RecordedFailure(failure.what());
     }
 }

@@ -143,7 +143,7 @@ void FinishRecorded(OpenDirectory& opened) {
     if (opened.Recorded.empty()) return;
     try {
         FinishJournal(opened.Directory);
-    } catch (const RunTimeFailure& failure) {
+    } catch (const RunTimeFailure& failure) {  // says what waits
         throw RunTimeFailure(fmt::format("{} An earlier change is recorded and waits for this.", failure.what()));
     }
     opened.Recorded.clear();
@@ -160,7 +160,7 @@ void CommitOutermost(OpenDirectory& opened) {
     assert(opened.Lock.IsHeld());
     try {
         CommitChanges(opened.Directory, real);
-    } catch (const RecordedFailure& failure) {
+    } catch (const RecordedFailure& failure) {  // from here on the change counts
         opened.Recorded = std::move(real);
         opened.Seen.clear();
         throw RunTimeFailure(

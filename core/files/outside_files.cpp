@@ -60,7 +60,7 @@ void WriteOutside(const std::string& path, std::string_view contents) try {
         WriteFirst(scratch, contents);
         Flush(scratch);
         if (CurrentDisk().Rename(AT_FDCWD, scratch.Name.c_str(), replaced.c_str()) != 0) Fail(path, "can't be written");
-    } catch (const RunTimeFailure&) {
+    } catch (const RunTimeFailure&) {  // the half-written file is to go
         CurrentDisk().Unlink(AT_FDCWD, scratch.Name.c_str());
         throw;
     }

@@ -125,7 +125,7 @@ TEST_P(Season, ComesOutAsWorkedOutIndependently) {
         const std::string have = stat.substr(size * static_cast<std::size_t>(row - 1), size);
         const std::string want = TextOf(at + "after/row" + std::to_string(row));
         EXPECT_TRUE(have == want) << "the row is " << NamedRow(have) << ", expected " << NamedRow(want);
-        const std::string name = "field" + std::to_string(row) + ".dat";
+        const std::string name = FieldFileName(row);
         const bool isHay = State.Stat[row].CropName.Text().starts_with(HayMark);
         ExpectSame(ParseFieldFile(Directory.Raw(name), isHay, name),
                    ParseFieldFile(TextOf(at + "after/" + name), isHay, name));

@@ -36,6 +36,7 @@ struct StoriesTest : WindowTest {
             if (frame->isVisible()) bars[{frame->y(), frame->x()}] = {FromQt(title[0]), FromQt(title[1])};
         }
         std::vector<std::pair<std::string, std::string>> inOrder;
+        inOrder.reserve(bars.size());
         for (const auto& [place, bar] : bars) inOrder.push_back(bar);
         return inOrder;
     }

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "catch_up/weather_commands.h"
-#include "core/in_work.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "core/in_work.h"
+#include "core/field_in_work.h"
 #include "screen/controls.h"
 #include "screen/form.h"
 

@@ -80,37 +80,26 @@ TEST_F(WaterTest, TheWorkbenchSaysWhenToIrrigateNextAfterEachReturnToIt) {
     EXPECT_EQ(State.CurrentField, 1);
 }
 
-TEST_F(WaterTest, RefusesDaysAndAmounts) {
+TEST_F(WaterTest, ARefusalPutsTheFocusWhereItIsSetRight) {
     Open(AField());
-    const std::string planted =
-        "Invalid Water Date: Use a Date after 05-01-03.  Dates on or prior to planting date are not permitted.";
-    struct Case {
-        const char* Date;
-        const char* Amount;
-        JulianValue DepletionDay, DriedOut;
-        std::string Says;
-        const char* Focus = "txtRainDate";
-    };
-    const Case cases[] = {
-        {"7/3", "1", 0, 0, planted},
-        {"5/1/2003", "1", 0, 0, planted},
-        {"7/16/2003", "1", 0, 0, "Veraqua: Use a Date before 07-16-03.  Dates into the future are not permitted."},
-        {"7/5/2003", "1", July(5), 0,
-         "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' if "
-         "you want to add water."},
-        {"7/9/2003", "1", July(5), July(9),
-         "Depletion Warning: Your field dried out (99% water depletion) on 07-09-03.  Irrigation must be prior to that "
-         "date."},
-        {"7/9/2003", "much", 0, 0, "Missing Data!: Please enter a value for your rainfall amount", "txtRainfall"},
-        {"7/9/2003", "0", 0, 0, "Bad Data!: Please enter a value greater than 0.  Use Delete button if deleting values",
-         "txtRainfall"}};
-    for (const Case& c : cases) {
-        State.Updates[1] = c.DepletionDay;
-        State.DriedOutDay = c.DriedOut;
-        Rain(c.Date, c.Amount);
-        EXPECT_EQ(User.LastSaid(), c.Says);
-        EXPECT_EQ(User.FocusedControls.back(), std::string("frmAddWater.") + c.Focus);
+    using Case = std::array<std::string, 4>;  // date, amount, title, focus
+    for (const auto& [date, amount, title, focus] : {Case{"7/3", "1", "Invalid Water Date", "txtRainDate"},
+                                                     Case{"7/9/2003", "much", "Missing Data!", "txtRainfall"},
+                                                     Case{"7/9/2003", "0", "Bad Data!", "txtRainfall"}}) {
+        Rain(date, amount);
+        EXPECT_EQ(User.Told.back().Title, title);
+        EXPECT_EQ(User.FocusedControls.back(), "frmAddWater." + focus) << title;
     }
+    State.DriedOutDay = July(9);
+    Rain("7/9/2003", "1");
+    EXPECT_EQ(User.LastSaid(),
+              "Depletion Warning: Your field dried out (99% water depletion) on 07-09-03.  Irrigation must be prior to "
+              "that date.");
+    State.Updates[1] = July(9);  // which comes first
+    Rain("7/9/2003", "1");
+    EXPECT_EQ(User.LastSaid(),
+              "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' "
+              "if you want to add water.");
     State.Updates[1] = State.DriedOutDay = 0;
     Rain("7/9/2003", "1291");  // inches: more than 32767 mm
     EXPECT_THAT(User.Failures, ElementsAre(HasSubstr("Amount of the day")));
@@ -201,21 +190,11 @@ TEST_F(CutsTest, RecordsCuttingsFromTheOnsetOfGrowthOnAndCancelPutsThemBack) {
     EXPECT_EQ(Files(), files);
 }
 
-TEST_F(CutsTest, RefusesDaysAndNumbers) {
-    using Row = std::array<std::string, 4>;  // date, number, what is said, where the focus goes
-    for (const auto& [date, number, said, focus] :
-         {Row{"4/30/2003", "1", "Veraqua: Use a Date after 05-01-03.  Only data after growth onset can be used.",
-              "txtCutAdd"},
-          Row{"7/16/2003", "1", "Veraqua: Use a Date before 07-16-03.  Can't count on future weather or work...",
-              "txtCutAdd"},
-          Row{"7/1/2003", "", "Input Error: Please enter a number value for your cut number", "txtCutNumber"},
-          Row{"7/1/2003", "2.5", "Input Error: Please enter a whole number for your cut number", "txtCutNumber"},
-          Row{"7/1/2003", "-1", "Input Error: Please enter a positive whole number for your cut number",
-              "txtCutNumber"}}) {
-        Cut(date, number);
-        EXPECT_EQ(User.LastSaid(), said);
-        EXPECT_EQ(User.FocusedControls.back(), "frmCuts." + focus);
-    }
+TEST_F(CutsTest, ARefusalPutsTheFocusWhereItIsSetRight) {
+    Cut("4/30/2003", "1");
+    EXPECT_EQ(User.FocusedControls.back(), "frmCuts.txtCutAdd");
+    Cut("7/1/2003", "2.5");
+    EXPECT_EQ(User.FocusedControls.back(), "frmCuts.txtCutNumber");
     EXPECT_THAT(Stored().Cuttings, IsEmpty());
 }
 

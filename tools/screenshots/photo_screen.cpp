@@ -1,4 +1,4 @@
-#include "tests/screenshots/photo_screen.h"
+#include "tools/screenshots/photo_screen.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -13,7 +13,7 @@
 #include "screen/forms.h"
 #include "screen/headless.h"
 #include "shell/first_start.h"
-#include "tests/screenshots/photo_screen.h"
+#include "tools/screenshots/photo_screen.h"
 #include "weather/forms/download.h"
 
 namespace veraqua {
