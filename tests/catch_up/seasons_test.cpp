@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <set>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -128,7 +129,7 @@ TEST_P(Season, ComesOutAsWorkedOutIndependently) {
         const std::string name = FieldFileName(row);
         const bool isHay = State.Stat[row].CropName.Text().starts_with(HayMark);
         ExpectSame(ParseFieldFile(Directory.Raw(name), isHay, name),
-                   ParseFieldFile(TextOf(at + "after/" + name), isHay, name));
+                   ParseFieldFile(TextOf(fmt::format("{}after/{}", at, name)), isHay, name));
     }
 }
 
