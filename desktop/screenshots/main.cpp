@@ -8,12 +8,12 @@
 #include "core/files/files.h"
 #include "core/state.h"
 #include "desktop/app.h"
+#include "desktop/screenshots/photo_screen.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "screen/forms.h"
 #include "screen/headless.h"
 #include "shell/first_start.h"
-#include "tools/screenshots/photo_screen.h"
 #include "weather/forms/download.h"
 
 namespace veraqua {

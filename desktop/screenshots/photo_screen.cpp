@@ -1,4 +1,4 @@
-#include "tools/screenshots/photo_screen.h"
+#include "desktop/screenshots/photo_screen.h"
 
 #include <QAbstractButton>
 #include <QApplication>
