@@ -4,7 +4,6 @@
 #include "core/field_in_work.h"
 #include "core/state.h"
 #include "workbench/adjustments.h"
-#include "workbench/harvest.h"
 
 namespace veraqua {
 
@@ -40,14 +39,13 @@ int RunFieldReset(Session& session, int row) {
     return Answer(session, row, ResetField(session.Outside));
 }
 
-int RunFieldHarvest(Session& session, int row) {
+int RunFieldHarvest(Session& session, int row, DamagedField damaged) {
     if (!session.OpenData(files::Access::Write) || !IsField(session, row)) return ExitRefused;
-    if (!SelectField(session.Outside, row)) return ExitRefused;
-    const OrRefused<std::string> backup = HarvestField(session.Outside, row);
-    if (!backup.IsDone()) return session.Refuse(backup.Why());
+    const OrRefused<Harvested> harvest = HarvestField(session.Outside, row, damaged);
+    if (!harvest.IsDone()) return session.Refuse(harvest.Why());
     const std::vector<int> rows = RowsInUse();
-    session.Print({{"backup", *backup}, {"fields", JsonOfRows(rows)}}, TextOfRows(rows));
-    return ExitDone;
+    session.Print({{"backup", harvest->Backup}, {"fields", JsonOfRows(rows)}}, TextOfRows(rows));
+    return harvest->IsCarriedOut ? ExitDone : ExitFailure;
 }
 
 int RunFieldRestore(Session& session, const std::string& backup) {

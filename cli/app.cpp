@@ -21,6 +21,7 @@ using Command = std::function<int(Session&)>;
 struct Typed {
     bool Sample = false;
     bool Overwrite = false;
+    bool Damaged = false;
     int Row = 0;
     int Year = 0;
     std::vector<int> Rows;
@@ -240,13 +241,21 @@ class ProgramOptions {
 
         TakeRow(Add(field, "reset", "start the crop over from day 1",
                     [this](Session& session) { return RunFieldReset(session, typed_.Row); }));
-        TakeRow(Add(field, "harvest", "back a field up and remove it",
-                    [this](Session& session) { return RunFieldHarvest(session, typed_.Row); }));
+        AddHarvest(field);
         Add(field, "restore", "put a harvested field back",
             [this](Session& session) { return RunFieldRestore(session, typed_.Backup); })
             ->add_option("BACKUP", typed_.Backup, "name of the backup")
             ->required()
             ->type_name("");
+    }
+
+    void AddHarvest(CLI::App* field) {
+        CLI::App* harvest = Add(field, "harvest", "back a field up and remove it", [this](Session& session) {
+            return RunFieldHarvest(session, typed_.Row,
+                                   typed_.Damaged ? DamagedField::IsHarvested : DamagedField::Fails);
+        });
+        TakeRow(harvest);
+        harvest->add_flag("--damaged", typed_.Damaged, "also where the field's file is damaged: its bytes are kept");
     }
 
     void TakeDate(CLI::App* command) { command->add_option("DATE", typed_.Date, "the day")->required()->type_name(""); }

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "catch_up/weather_commands.h"
+#include "core/base/characters.h"
 
 namespace veraqua {
 
@@ -20,9 +21,10 @@ constexpr std::chrono::milliseconds Patience{300};
 /// Onto stderr. Where that is closed or full there is nobody to be told, and the work goes on.
 void Say(const std::string& text) { static_cast<void>(std::fputs(text.c_str(), stderr)); }
 
-std::string OneLine(std::string_view text) {
-    std::string line(text);
-    std::replace(line.begin(), line.end(), '\n', ' ');
+/// A message as one line, which steers no terminal whatever file or word it quotes.
+std::string OneLine(std::string_view title, std::string_view text) {
+    std::string line = fmt::format("{}: {}", title.empty() ? ProgramTitle : title, text);
+    std::ranges::replace_if(line, IsControlCharacter, ' ');
     return line;
 }
 
@@ -30,12 +32,12 @@ std::string OneLine(std::string_view text) {
 
 void CliAsk::Tell(std::string_view text, std::string_view title, Icon) {
     ClearLine();
-    Say(fmt::format("{}: {}\n", title, OneLine(text)));
+    Say(OneLine(title, text) + "\n");
 }
 
 bool CliAsk::YesNo(std::string_view text, std::string_view title, Icon, bool) {
     ClearLine();
-    Say(fmt::format("{}: {} [{}]\n", title, OneLine(text), answer_ ? "yes" : "no"));
+    Say(fmt::format("{} [{}]\n", OneLine(title, text), answer_ ? "yes" : "no"));
     return answer_;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/session.h"
+#include "workbench/harvest.h"
 #include "workbench/water.h"
 
 /// What each command of veraqua-cli does. Each does the deeds that the forms do, prints the
@@ -48,7 +49,7 @@ enum class Adjustment { Mad, Efficiency, Depletion };
 int RunFieldSet(Session& session, int row, Adjustment what, const std::string& value,
                 const std::optional<std::string>& critical);
 int RunFieldReset(Session& session, int row);
-int RunFieldHarvest(Session& session, int row);
+int RunFieldHarvest(Session& session, int row, DamagedField damaged);
 int RunFieldRestore(Session& session, const std::string& backup);
 
 int RunWaterAdd(Session& session, int row, Water kind, const std::string& date, const std::string& amount);

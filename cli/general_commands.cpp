@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include "cli/commands.h"
+#include "core/base/characters.h"
 #include "core/base/text_table.h"
 #include "core/crop_table.h"
 #include "core/state.h"
@@ -19,6 +20,7 @@ std::string CodeOf(std::size_t number) { return fmt::format("{:02}", number); }
 
 int RunInit(Session& session, bool sample) {
     const std::string path = session.DirectoryToMake();
+    if (HasControlCharacter(path)) return session.Refuse({"A directory's name can't have control characters."});
     const InitOutcome outcome = MakeDataDirectoryAt(session.Outside, path, sample);
     if (outcome.Refused) return ExitRefused;
     session.Print({{"data", path}, {"created", outcome.Created}},

@@ -68,6 +68,11 @@ std::string StationNameOf(std::string_view code) {
 
 std::string FieldFileName(int row) { return fmt::format("field{}.dat", row); }
 
+std::string FieldFileTitle(int row) {
+    const std::string id = State.Stat[row].FieldId.Text();
+    return id.empty() ? FieldFileName(row) : fmt::format("{} (field {})", FieldFileName(row), id);
+}
+
 std::vector<int> RowsInUse() {
     std::vector<int> rows;
     for (int row = 1; row <= MaxFields; ++row)

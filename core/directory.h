@@ -14,6 +14,9 @@ namespace veraqua {
 /// "field7.dat" for row 7.
 std::string FieldFileName(int row);
 
+/// The same with the field's ID, for messages: "field7.dat (field NORTH 30)".
+std::string FieldFileTitle(int row);
+
 /// Name of the weather station with the two-digit code `code`; "UNKNOWN" where weathdef.dat names none.
 std::string StationNameOf(std::string_view code);
 

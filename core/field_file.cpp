@@ -144,7 +144,14 @@ void ReplaceRows(FieldFile& file, const FieldChanges& changes) {
 }
 
 FieldFile Parsed(const files::Bytes& bytes, int row) {
-    return ParseFieldFile(bytes, State.Stat[row].CropName.First() == HayMark, FieldFileName(row));
+    try {
+        return ParseFieldFile(bytes, State.Stat[row].CropName.First() == HayMark, FieldFileTitle(row));
+    } catch (const RunTimeFailure& failure) {  // a damaged file needs the user
+        throw RunTimeFailure(
+            fmt::format("{} Put a copy of the file in its place, or harvest the field, which keeps its bytes "
+                        "(veraqua-cli: field harvest {} --damaged).",
+                        failure.what(), row));
+    }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "engine/prediction.h"
 
 #include <algorithm>
+#include <cmath>
+#include <string>
 
 #include <fmt/format.h>
 
@@ -24,11 +26,24 @@ void TrackSpell(bool isIn, JulianValue day, bool& latch, JulianValue& firstDay) 
     latch = isIn;
 }
 
-std::int16_t AmountOf(double need) {
-    return ToInteger16(need, "the irrigation needed, mm (by the irrigation efficiency)");
+[[noreturn]] void RefuseNeed(double need) {
+    const std::string fault =
+        std::isfinite(need)
+            ? fmt::format(
+                  "With the field's irrigation efficiency {} mm of irrigation would be needed, more than can be kept.",
+                  Plain(need))
+            : "With an irrigation efficiency of 0 no irrigation is enough.";
+    throw RunTimeFailure(fault +
+                         " Change the efficiency: Field Options, Change Irrigation Efficiency (veraqua-cli: "
+                         "field set ROW efficiency VALUE).");
 }
 
 }  // namespace
+
+std::int16_t IrrigationAmount(double need) {
+    if (!FitsInteger16(need)) RefuseNeed(need);
+    return ToInteger16(need, "the irrigation needed");
+}
 
 PredictionChecks::PredictionChecks(const SeasonLimits& limits) : limits_(limits) {
     if (limits.DryDays < 0 || limits.DryDays > LongestDryDays)
@@ -72,7 +87,8 @@ void PredictionChecks::CheckSpells(const DayEnd& day, Outlook& outlook) {
 void PredictionChecks::CheckCutting(const DayEnd& day, Outlook& outlook) {
     const auto latest = static_cast<std::size_t>(limits_.DryDays);
     std::shift_left(deficitDelay_.begin(), deficitDelay_.begin() + limits_.DryDays + 1, 1);
-    deficitDelay_[latest] = ToSingle(day.Need(), "the irrigation needed, mm (by the irrigation efficiency)");
+    if (!FitsSingle(day.Need())) RefuseNeed(day.Need());
+    deficitDelay_[latest] = static_cast<float>(day.Need());
     if (day.GddSum < static_cast<float>(limits_.Gdd) || outlook.HayNextCutDay != 0) return;
 
     StatRecord& row = outlook.Row;
@@ -83,16 +99,16 @@ void PredictionChecks::CheckCutting(const DayEnd& day, Outlook& outlook) {
     if (day.Depletion > static_cast<float>(limits_.MADCritical)) {
         // The crop can't wait for the cutting: water it as late as the drying allows.
         row.NextIrrDay = day.Day - limits_.DryDays;
-        row.NextIrrAmount = AmountOf(deficitDelay_[0]);
+        row.NextIrrAmount = IrrigationAmount(deficitDelay_[0]);
     } else {
         row.NextIrrDay = day.Day + 1;
-        row.NextIrrAmount = AmountOf(deficitDelay_[latest]);
+        row.NextIrrAmount = IrrigationAmount(deficitDelay_[latest]);
     }
 }
 
 void PredictIrrigation(const DayEnd& day, Outlook& outlook) {
     outlook.Row.NextIrrDay = day.Day;
-    outlook.Row.NextIrrAmount = AmountOf(day.Need());
+    outlook.Row.NextIrrAmount = IrrigationAmount(day.Need());
 }
 
 void CloseSeason(const SeasonLimits& limits, const DayEnd& lastDay, JulianValue today, Outlook& outlook) {

@@ -65,6 +65,9 @@ class PredictionChecks {
     std::array<float, LongestDryDays + 1> deficitDelay_{};  ///< needs of the last `DryDays` days, mm; the oldest first
 };
 
+/// `need`, mm, as the whole millimetres of `NextIrrAmount`. RunTimeFailure, naming the efficiency, beyond 16 bits.
+std::int16_t IrrigationAmount(double need);
+
 /// Sets the next irrigation to `day`, by the need of that day.
 void PredictIrrigation(const DayEnd& day, Outlook& outlook);
 

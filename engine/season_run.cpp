@@ -81,7 +81,7 @@ FieldRun RunField(Ask& ask, FieldInHand& field, JulianValue today) {
     const SeasonStart start{firstWanted - 1, wasReset, today, field.Row};
     const JulianValue startDay = AsOf(file, start.Day).Day;
     const SeasonWeather weather(State.StationCode, startDay + 1, State.WeatherLastJulian, State.WeatherCoeff);
-    Season season = InFile(FieldFileName(State.CurrentField), [&] { return RunSeason(file, start, weather, ask); });
+    Season season = InFile(FieldFileTitle(State.CurrentField), [&] { return RunSeason(file, start, weather, ask); });
     if (season.Ending == SeasonEnding::WeatherDamaged) return {RunOutcome::WeatherDamaged, {}, 0};
     const bool stopped = season.Ending == SeasonEnding::StoppedByUser;
     if (stopped && !file.IsHay) ask.Tell("Writing updated Field History", "Veraqua Info");
@@ -145,8 +145,7 @@ FieldInHand NewField(const FieldFile& headerAndSoil) {
     row.MadNow = header.MAD;
     if (row.Depletion >= row.MadNow) {
         row.NextIrrDay = header.PlantDay;
-        row.NextIrrAmount = ToInteger16(static_cast<double>(row.Depletion) * capacity / 100 / header.IrrEff,
-                                        "the irrigation needed, mm (by the irrigation efficiency)");
+        row.NextIrrAmount = IrrigationAmount(static_cast<double>(row.Depletion) * capacity / 100 / header.IrrEff);
     }
     return field;
 }

@@ -122,7 +122,7 @@ std::string FieldReportText(const FieldReport& report, JulianValue today) {
 std::optional<FieldReport> StoredFieldReport(Ask& ask, int row) {
     const std::optional<FieldFile> file = OpenField(ask, row);
     if (!file) return std::nullopt;
-    return InFile(FieldFileName(row), [&] { return GatherFieldReport(*file, State.Stat[row], State.EnglishUnits); });
+    return InFile(FieldFileTitle(row), [&] { return GatherFieldReport(*file, State.Stat[row], State.EnglishUnits); });
 }
 
 std::optional<std::string> FieldReportText(Ask& ask, int row) {

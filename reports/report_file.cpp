@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "core/base/characters.h"
 #include "core/base/text.h"
 #include "core/files/data_directory.h"
 #include "core/files/files.h"
@@ -86,7 +87,7 @@ bool FileNameMayBeUsed(Ask& ask, std::string_view file, const std::string& direc
     constexpr std::string_view title = "Invalid File Name";
     if (file.size() > LongestName)
         ask.Tell("Please enter a shorter file name", title);
-    else if (file.find_first_of("':|") != std::string_view::npos)
+    else if (file.find_first_of("':|") != std::string_view::npos || HasControlCharacter(file))
         ask.Tell("An invalid special character was found in your file name.", title);
     else if (IsDataFileName(file) && files::SameDirectory(directory, files::DirectoryPath()))
         ask.Tell("That is a data file of Veraqua. Please choose another name.", title);

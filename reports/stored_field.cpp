@@ -7,7 +7,7 @@ namespace veraqua {
 void ForEachStoredField(Ask& ask, const std::function<void(int, const FieldFile&)>& visit) {
     for (const int row : RowsInUse()) {
         try {
-            if (const auto file = OpenField(ask, row)) InFile(FieldFileName(row), [&] { visit(row, *file); });
+            if (const auto file = OpenField(ask, row)) InFile(FieldFileTitle(row), [&] { visit(row, *file); });
         } catch (const RunTimeFailure& failure) {  // one field of many
             ask.Tell(failure.what(), ProgramTitle, Icon::Stop);
         }

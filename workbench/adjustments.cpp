@@ -138,7 +138,7 @@ OrRefused<FieldChange> ResetField(Ask& ask) {
         FieldFile start = field.File;
         start.Soil.Content = AsOf(start, start.Header().PlantDay).Content;
         start.Hay.NextCutDay = 0;
-        field = InFile(FieldFileName(State.CurrentField), [&start] { return NewField(start); });
+        field = InFile(FieldFileTitle(State.CurrentField), [&start] { return NewField(start); });
         return true;
     });
     if (!done) return Refused{};

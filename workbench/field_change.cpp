@@ -42,7 +42,7 @@ OrRefused<FieldChange> RecordAndRun(Ask& ask, KeptList list, JulianValue day, st
     const auto edit = [&](FieldInHand& field) {
         FieldLists lists = field.File.Lists;
         const ListChange change =
-            InFile(FieldFileName(State.CurrentField), [&] { return ManageEvents(lists.*list, day, amount); });
+            InFile(FieldFileTitle(State.CurrentField), [&] { return ManageEvents(lists.*list, day, amount); });
         isMissing = change == ListChange::NoMatch;
         if (change != ListChange::Changed) return false;
         if (list == &FieldLists::Cuttings)

@@ -42,6 +42,16 @@ std::optional<HarvestedRow> ReadRowFile(const std::string& backupName) {
     return harvested;
 }
 
+FixedText<10> IdToHarvest(Ask& ask, int row, DamagedField damaged) {
+    try {
+        return LoadFieldFile(row).Header().FieldId;
+    } catch (const RunTimeFailure& failure) {  // the user may wish to be rid of it
+        if (damaged == DamagedField::Fails || !files::Exists(FieldFileName(row))) throw;
+        ask.Tell(failure.what(), ProgramTitle, Icon::Stop);
+        return State.Stat[row].FieldId;
+    }
+}
+
 /// Rows 1 to n for the n fields that are left when `ended` goes; gaps close.
 void RenumberWithout(int ended) {
     std::vector<int> left = RowsInUse();
@@ -101,8 +111,18 @@ int RowToRestore() {
 
 }  // namespace
 
-OrRefused<std::string> HarvestField(Ask& ask, int row) {
-    const FixedText<10> id = LoadFieldFile(row).Header().FieldId;
+bool IsDamaged(int row) {
+    if (!files::Exists(FieldFileName(row))) return false;
+    try {
+        LoadFieldFile(row);
+    } catch (const RunTimeFailure&) {  // which is the answer
+        return true;
+    }
+    return false;
+}
+
+OrRefused<Harvested> HarvestField(Ask& ask, int row, DamagedField damaged) {
+    const FixedText<10> id = IdToHarvest(ask, row, damaged);
     if (!ask.YesNo("Please confirm you wish to harvest/delete Field ID = " + id.Whole(), "Delete Confirmation",
                    Icon::Question, true))
         return Refused{};
@@ -124,9 +144,11 @@ OrRefused<std::string> HarvestField(Ask& ask, int row) {
         const Refused refused{(isRecorded ? "" : failing) + failure.what(), "File Error"};
         if (!isRecorded) return refused;
         Tell(ask, refused);
+        StartDirectory();
+        return Harvested{backup, false};
     }
     StartDirectory();
-    return backup;
+    return Harvested{backup};
 }
 
 OrRefused<int> RestoreField(Ask& ask, const std::string& backupName) {

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "catch_up/weather_check.h"
+#include "core/base/characters.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/base/units.h"
@@ -62,11 +63,9 @@ bool IdIsTaken(std::string_view typed) {
                                [&](int row) { return State.Stat[row].FieldId.UpperCase().Text() == compared; });
 }
 
-bool IsControlCharacter(char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }
-
 std::optional<Refused> CheckFieldId(std::string_view typed) {
     if (Trimmed(typed).empty()) return Refused{"Please enter a Field ID Code!", "Missing Field ID", Given::FieldId};
-    if (!Latin1FromUtf8(typed) || std::ranges::any_of(typed, IsControlCharacter))
+    if (!Latin1FromUtf8(typed) || HasControlCharacter(typed))
         return Refused{"The Field ID Code has a character that no field file can hold.", InputError, Given::FieldId};
     if (IdIsTaken(typed))
         return Refused{"You have already used this Field ID Code. Please select another!", "Duplicate Field ID",
@@ -213,6 +212,8 @@ StartedField StartField(Ask& ask, const EnteredSoil& soil) {
     file.Hay = State.Hay;
     file.Soil = soil.Profile;
     FieldInHand field = NewField(file);
+    State.MadExceededDay = 0;  // those of the field that was in work before; a run sets them
+    State.DriedOutDay = 0;
     files::ChangeSet asOne;
     const FieldRun run = RunField(ask, field, State.TodayJulian);
     StoreField(ask, field);

@@ -165,6 +165,8 @@ void CommitOutermost(OpenDirectory& opened) {
         opened.Seen.clear();
         throw RunTimeFailure(
             fmt::format("{} The change is recorded and will be completed at the next start.", failure.what()));
+    } catch (const RunTimeFailure& failure) {
+        throw RunTimeFailure(fmt::format("{} Nothing was changed.", failure.what()));
     }
     for (const auto& [key, change] : real)
         opened.Seen[key] = SeenFile{change.Contents ? change.Name : "", change.Contents};

@@ -49,7 +49,7 @@ void Fill(frmFieldDetails& form) {
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return;
     const StatRecord& row = State.Stat[State.CurrentField];
-    ShowDetails(form, InFile(FieldFileName(State.CurrentField),
+    ShowDetails(form, InFile(FieldFileTitle(State.CurrentField),
                              [&] { return DetailsOf(*file, row, State.TodayJulian, State.EnglishUnits); }));
     ShowDirectoryRow(form, row);
     ShowFieldIn(form.StatusBar1);

@@ -27,7 +27,7 @@ void FillHistory(FieldHistory& form) {
     }
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return;
-    form.Lines = InFile(FieldFileName(State.CurrentField), [&] { return HistoryLines(*file, State.EnglishUnits); });
+    form.Lines = InFile(FieldFileTitle(State.CurrentField), [&] { return HistoryLines(*file, State.EnglishUnits); });
     form.txtData.Text = fmt::format("{}", fmt::join(form.Lines, "\n"));
     form.txtID.Text = IdInWork();
     form.txtCropName.Text = CropInWork();

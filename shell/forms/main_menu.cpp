@@ -58,6 +58,7 @@ void Today_Click(frmVeraqua& form) {
     if (row == nullptr) return;
     GoTo(FormName::frmField);  // which forgets, where it is loaded anew, the field in work
     State.CurrentField = static_cast<std::int16_t>(row->Data);
+    State.CallerForm = "frmVeraqua";
     Fill(FormName::frmField);
 }
 

@@ -151,8 +151,8 @@ TEST_F(FieldFilesOnDisk, AMissingFileIsToldAndADamagedOneIsAFailureAndStays) {
     EXPECT_THAT(User.Texts(), ElementsAre("This is not good. :-( Your field file is missing...  Select another."));
     const std::string damaged = OrdinaryBytes.substr(0, 200);
     Directory.Put("FIELD2.DAT", damaged);
-    EXPECT_FAILURE(SelectField(User, 2), StartsWith("field2.dat: "));
-    EXPECT_FAILURE(LoadFieldFile(2), StartsWith("field2.dat: "));
+    EXPECT_FAILURE(SelectField(User, 2), StartsWith("field2.dat (field NORTH 40): "));
+    EXPECT_FAILURE(LoadFieldFile(2), StartsWith("field2.dat (field NORTH 40): "));
     EXPECT_EQ(Directory.Raw("FIELD2.DAT"), damaged);
 }
 

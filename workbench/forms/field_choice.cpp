@@ -1,6 +1,7 @@
 #include "workbench/forms/field_choice.h"
 
 #include <optional>
+#include <utility>
 
 #include "catch_up/weather_check.h"
 #include "catch_up/weather_commands.h"
@@ -13,24 +14,31 @@
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "workbench/forms/harvest.h"
+#include "workbench/harvest.h"
 
 namespace veraqua {
 
 namespace {
 
+/// No field is in work, and none is shown. A list that the user picks from stays.
+void GiveUpField(frmField& form) {
+    State.CurrentField = 0;
+    if (!form.ComboField.Visible) SelectNothing(form);
+}
+
 /// Makes `row` the field in work and checks the weather of its station. Nothing, with none in work, if its file is
 /// missing, after the user has been told.
-std::optional<WeatherCheck> TakeUp(int row) {
+std::optional<WeatherCheck> TakeUp(frmField& form, int row) {
     try {
         if (SelectField(TheScreen(), row)) {
             State.CallerForm = "frmField";
             return CheckWeather(TheScreen(), YearOf(State.Stat[row].LastDay));
         }
     } catch (const RunTimeFailure&) {
-        State.CurrentField = 0;  // its header may be that of another field
+        GiveUpField(form);  // its header may be that of another field
         throw;
     }
-    State.CurrentField = 0;
+    GiveUpField(form);
     return std::nullopt;
 }
 
@@ -92,7 +100,11 @@ void ComboField_Click(frmField& form) {
         RestorePicked(form, picked->Data);
         return;
     }
-    const std::optional<WeatherCheck> weather = TakeUp(picked->Data);
+    if (form.DeletePending && IsDamaged(picked->Data)) {
+        HarvestDamaged(form, picked->Data);
+        return;
+    }
+    const std::optional<WeatherCheck> weather = TakeUp(form, picked->Data);
     if (!weather) return;
     if (*weather == WeatherCheck::Abandoned) {
         AbandonSelection(form);
@@ -107,7 +119,15 @@ void ComboField_Click(frmField& form) {
 }
 
 void SelectField(frmField& form) {
-    if (!FieldIsChosen() || !TakeUp(State.CurrentField)) return;
+    // A row of the main menu's list is a pick. The way back from the graphs goes on without the weather.
+    const bool isPick = std::exchange(State.CallerForm, "") == "frmVeraqua";
+    if (!FieldIsChosen()) return;
+    const std::optional<WeatherCheck> weather = TakeUp(form, State.CurrentField);
+    if (!weather) return;
+    if (isPick && *weather == WeatherCheck::Abandoned) {
+        AbandonSelection(form);
+        return;
+    }
     if (!form.DeletePending) RunIfBehind();
     FieldInfo(form);
 }
@@ -124,7 +144,7 @@ void mnuSelect_Click(frmField& form) {
 }
 
 void SelectNothing(frmField& form) {
-    form_clear(form);
+    ShowNoField(form);
     ForgetPick(form);
     State.CurrentField = 0;
 }

@@ -18,10 +18,16 @@ void mnuDelete_Click(frmField& form) {
         ListFields(form);
         return;
     }
-    const OrRefused<std::string> outcome = HarvestField(TheScreen(), State.CurrentField);
+    const OrRefused<Harvested> outcome = HarvestField(TheScreen(), State.CurrentField, DamagedField::IsHarvested);
     if (!outcome.IsDone()) return Tell(TheScreen(), outcome.Why());
     ShowNoField(form);
     if (State.FieldCount > 0) ListFields(form);
+}
+
+void HarvestDamaged(frmField& form, int row) {
+    State.CurrentField = static_cast<std::int16_t>(row);
+    mnuDelete_Click(form);
+    if (State.CurrentField == row) SelectNothing(form);  // not harvested; its header is that of another field
 }
 
 void mnuRestore_Click(frmField& form) {

@@ -121,6 +121,7 @@ TEST_F(Faults, OfTheDiskLeaveTheDirectoryWhollyOldOrRecordTheWhollyNew) {
             EXPECT_EQ(OnDisk(), expected);
             Close();
             if (text.empty()) break;
+            EXPECT_EQ(text.ends_with("Nothing was changed."), !isRecorded);
             EXPECT_THAT(text, testing::HasSubstr(error == EIO ? "Input/output error" : "No space left on device"));
         }
     }

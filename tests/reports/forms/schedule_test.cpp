@@ -67,7 +67,7 @@ TEST_F(PrintedScheduleOfFields, IsSortedByWhatIsToBeDoneFirst) {
     User.Told.resize(3);
     EXPECT_THAT(User.Texts(),
                 testing::ElementsAre("This is not good. :-( Your field file is missing...  Select another.",
-                                     testing::HasSubstr("field7.dat: "),
+                                     testing::HasSubstr("field7.dat (field North "),
                                      "Irrigation & Cutting Predictions Report was sent to your default printer"));
     EXPECT_EQ(State.Stat[2], before[2]);
     EXPECT_EQ(State.Stat[3], before[3]);

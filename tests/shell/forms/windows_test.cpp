@@ -102,7 +102,7 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     AField().Id("FULL").StoreAt(1);
     AField().Id("DRY").StoreAt(2);
     State.Stat[2].Depletion = 90;
-    // Known through today, so that nobody is sent for weather.
+    User.WeatherSource = [](const DayRange&) { return WeatherChoice::Taken; };
     State.TodayJulian = State.Stat[1].LastDay = State.Stat[2].LastDay = State.WeatherLastJulian = User.Today;
     Show(FormName::frmVeraqua);
     EXPECT_EQ(form.lblTodayNote.Caption, "2 fields, 1 needs water. Open a field with a double click or Enter.");
@@ -114,6 +114,10 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     form.Today.Index = -1;
     At(FormName::frmVeraqua).Click("cmdOpenToday");  // the worst
     EXPECT_EQ(State.CurrentField, 2);
+    At(FormName::frmField).Close();
+    User.WeatherSource = nullptr;  // and the user brings none
+    At(FormName::frmVeraqua).Click("cmdOpenToday");
+    EXPECT_TRUE(State.CurrentField == 0 && !The<frmField>().lbl_ID.Visible);
     At(FormName::frmField).Close();
     At(FormName::frmVeraqua).Click("cmdPrintToday");
     EXPECT_EQ(User.Printed.back().Title, "Veraqua fields today 07-15-2003");

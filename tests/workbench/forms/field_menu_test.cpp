@@ -31,6 +31,9 @@ TEST_F(FieldMenuTest, AFieldPickedIsShownAndRunOnlyIfItStandsBehindYesterday) {
     Select(1);
     EXPECT_EQ(State.Stat[2].LastDay, Today - 1);
     EXPECT_EQ(Form.lbl_ID.Caption, "Field ID is:  CREEK");
+    EXPECT_THAT(Form.Caption, testing::HasSubstr("CREEK"));
+    Menu.Click("mnuSelect");  // and gives it up
+    EXPECT_EQ(Form.Caption + Form.StatusBar1.Panels[0], "Field Options, Veraqua " + State.VersionString);
 }
 
 TEST_F(FieldMenuTest, AFieldWithoutItsWeatherOrItsFileIsNotSelected) {

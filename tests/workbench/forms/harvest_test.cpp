@@ -84,6 +84,36 @@ TEST_F(HarvestTest, AHarvestThatIsDeclinedOrRefusedChangesNothing) {
     EXPECT_TRUE(Directory.Has("field1.dat") && State.CurrentField == 1);
 }
 
+TEST_F(HarvestTest, ADamagedFieldIsHarvestedWithItsBytesAndTheIdOfTheDirectory) {
+    PlantRows({1, 2, 3});
+    Directory.Put("field2.dat", "damaged");
+    Menu.Click("mnuDelete").Pick("ComboField", 1);  // No is the answer
+    EXPECT_THAT(User.LastSaid(), testing::StartsWith("Veraqua: field2.dat (field 2): 7 bytes, but"));
+    EXPECT_TRUE(State.FieldCount == 3 && State.CurrentField == 0);
+    Harvest(1);
+    EXPECT_EQ(Directory.Raw("2         _150703_ 1.dat"), "damaged");
+    EXPECT_EQ(FieldsInRows(), (Ids{"1", "3"}));
+}
+
+TEST_F(HarvestTest, OneThatIsRecordedOnlySaysSo) {
+    PlantRows({1, 2});
+    User.OtherAnswer = true;
+    files::FailingDisk disk(0, EIO, true);
+    files::InstallDisk(&disk);
+    bool isRecorded = false;
+    for (int n = 1; !isRecorded; ++n) {  // until the journal is whole when the disk gives up
+        ASSERT_LT(n, 100);
+        disk.RefuseCall(n);
+        const OrRefused<Harvested> harvest = HarvestField(User, 1);
+        if (!harvest.IsDone()) continue;
+        isRecorded = true;
+        EXPECT_FALSE(harvest->IsCarriedOut);
+        EXPECT_THAT(User.LastSaid(), testing::HasSubstr("is recorded and will be completed"));
+    }
+    files::InstallDisk(nullptr);
+    EXPECT_EQ(FieldsInRows(), Ids{"2"});
+}
+
 TEST_F(HarvestTest, ABackupFromElsewhereIsRunFromPlanting) {
     for (int harvest = 0; harvest < 2; ++harvest) {
         Plant(AField().Id("a/b").Days(ThroughYesterday), 1);
