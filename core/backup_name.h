@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/base/text.h"
 #include "core/calendar.h"
@@ -12,5 +13,9 @@ namespace veraqua {
 /// it has 24 characters, by which backups are told from other files. The counter is the first from 1 whose name is free
 /// in the data directory. What no file name can hold ("/" and the NUL byte) becomes "-".
 std::string FreeBackupName(const FixedText<10>& fieldId, JulianValue harvestDay);
+
+/// What such a name tells of the harvest: its day, "06-30-26", and of a second one of the day its counter as well,
+/// "06-30-26 (2)". Empty for any other name.
+std::string HarvestInName(std::string_view name);
 
 }  // namespace veraqua

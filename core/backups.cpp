@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "core/backup_name.h"
 #include "core/base/failure.h"
 #include "core/files/files.h"
 
@@ -39,6 +40,12 @@ std::vector<Backup> FindBackups() {
         backups.push_back({name, TenCharacters(*bytes, IdOffset), TenCharacters(*bytes, CropOffset)});
     }
     return backups;
+}
+
+std::string ListText(const Backup& backup) {
+    const std::string harvest = HarvestInName(backup.FileName);
+    return fmt::format("{}  -  {}  -  {}", backup.FieldId, backup.CropName,
+                       harvest.empty() ? backup.FileName : "harvested " + harvest);
 }
 
 FieldFile LoadBackup(const std::string& fileName) {

@@ -17,6 +17,10 @@ struct Backup {
     bool operator==(const Backup&) const = default;
 };
 
+/// How a list names it, by what tells it from the other harvests of that field: "NORTH 30  -  @Alfalfa  -  harvested
+/// 06-30-26". A file whose name doesn't say so is told by its name.
+std::string ListText(const Backup& backup);
+
 /// What the user is told where there are none.
 constexpr std::string_view NoBackupsText = "No deleted fields found on disk!";
 

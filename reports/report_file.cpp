@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "core/backup_name.h"
 #include "core/base/characters.h"
 #include "core/base/text.h"
 #include "core/files/data_directory.h"
@@ -17,10 +18,11 @@ namespace veraqua {
 namespace {
 
 constexpr std::string_view Separators = "/\\";
+constexpr std::string_view NotInNames = "':|";
 constexpr std::size_t LongestName = 255;  // bytes, in every usual file system
 
 /// Names of the data directory's own files, in lower case: "#" is a digit, "*" one or more digits, "?" any character.
-constexpr std::array<std::string_view, 14> DataFileNames{
+constexpr std::array<std::string_view, 16> DataFileNames{
     "stat.dat",
     "updates.dat",
     "crop.dat",
@@ -33,6 +35,8 @@ constexpr std::array<std::string_view, 14> DataFileNames{
     "####rd.txt",
     "??????????_######_ *.dat",  // a harvested field: ID, date, counter
     "??????????_######_ *.row",  // its row of the directory
+    "????????????????????.dat",  // whatever has a harvested field's 24 characters is listed as one
+    "veraguide.doc",
     files::LockName,
     files::JournalName,
 };
@@ -87,7 +91,7 @@ bool FileNameMayBeUsed(Ask& ask, std::string_view file, const std::string& direc
     constexpr std::string_view title = "Invalid File Name";
     if (file.size() > LongestName)
         ask.Tell("Please enter a shorter file name", title);
-    else if (file.find_first_of("':|") != std::string_view::npos || HasControlCharacter(file))
+    else if (file.find_first_of(NotInNames) != std::string_view::npos || HasControlCharacter(file))
         ask.Tell("An invalid special character was found in your file name.", title);
     else if (IsDataFileName(file) && files::SameDirectory(directory, files::DirectoryPath()))
         ask.Tell("That is a data file of Veraqua. Please choose another name.", title);
@@ -105,13 +109,22 @@ std::optional<std::string> ReportPath(Ask& ask, std::string_view text, BareName 
         ask.Tell(fmt::format("The following directory was not found: {}", name.Directory), "Directory Error");
         return std::nullopt;
     }
-    if (name.File.empty()) {
+    if (Trimmed(name.File).empty()) {
         ask.Tell("Please enter a file name", "Missing File Name");
         return std::nullopt;
     }
     if (!FileNameMayBeUsed(ask, name.File, directory)) return std::nullopt;
     const bool inDataDirectory = name.Directory.empty() && bare == BareName::InDataDirectory;
     return (inDataDirectory ? directory : std::string()) + WithSlashes(text);
+}
+
+std::string HarvestedReportName(const Backup& backup) {
+    const std::string harvest = HarvestInName(backup.FileName);
+    std::string name = fmt::format("Field {} {}.txt", backup.FieldId, harvest.empty() ? backup.FileName : harvest);
+    const std::string refused = fmt::format("{}{}", Separators, NotInNames);
+    std::replace_if(
+        name.begin(), name.end(), [&](char c) { return refused.find(c) != std::string::npos; }, '-');
+    return name;
 }
 
 void SaveReport(Ask& ask, const SavedAs& report, std::string_view text) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/ask.h"
+#include "core/backups.h"
 
 /// Reports as text files: the names that they may have, and how they are saved.
 namespace veraqua {
@@ -25,6 +26,9 @@ struct SavedAs {
 
 constexpr SavedAs SavedSchedule{"Your Irrigation Schedule", "Predict.txt"};
 constexpr SavedAs SavedFieldReport{"Your Field Report", "Field.txt"};
+
+/// Name for the report of a harvested field: "Field NORTH 30 06-30-26.txt".
+std::string HarvestedReportName(const Backup& backup);
 
 /// Saves `text` to the path in `ReportFileName`, which becomes that of the default name where it is empty. An old file
 /// of that name is replaced. Then tells that the report was saved. A Refusal if the disk refuses; an old file is then

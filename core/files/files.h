@@ -96,6 +96,9 @@ Bytes ReadOutside(const std::string& path, std::size_t limit);
 
 bool DirectoryExists(const std::string& path);
 
+/// Whether a report saved to `path` would replace a file.
+bool FileExists(const std::string& path);
+
 /// Whether the two paths lead to one directory, links followed. An empty path is the working directory.
 bool SameDirectory(const std::string& a, const std::string& b);
 

@@ -79,6 +79,11 @@ Bytes ReadOutside(const std::string& path, std::size_t limit) try {
     throw Refusal(failure.what());
 }
 
+bool FileExists(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 bool DirectoryExists(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

@@ -6,6 +6,7 @@
 #include "core/state.h"
 #include "reports/forms/report_options.h"
 #include "reports/forms/report_roads.h"
+#include "reports/report_file.h"
 #include "reports/soil_preview.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -21,8 +22,7 @@ void Load(frmSelectHarvested& form) {
         Unload(FormName::frmSelectHarvested);
         return;
     }
-    for (const Backup& backup : form.Backups)
-        form.ComboDField.Add(fmt::format("{}  -  {}", backup.FieldId, backup.CropName));
+    for (const Backup& backup : form.Backups) form.ComboDField.Add(ListText(backup));
 }
 
 void ComboDField_Click(frmSelectHarvested& form) {
@@ -42,10 +42,11 @@ void cmdOK_Click(frmSelectHarvested& form) {
         TheScreen().Tell("Select a field from the drop-down list to your right.");
         return;
     }
-    const ReportDestination destination = ChooseDestination(SavedReport::HarvestedField);
+    const Backup& backup = form.Backups[static_cast<std::size_t>(form.ComboDField.Index)];
+    const ReportDestination destination = ChooseDestination(SavedReport::HarvestedField, HarvestedReportName(backup));
     if (destination == ReportDestination::None) return;
-    const std::string& name = form.Backups[static_cast<std::size_t>(form.ComboDField.Index)].FileName;
-    const FieldReport report = InFile(name, [&] { return GatherHarvestedReport(*form.Field, State.EnglishUnits); });
+    const FieldReport report =
+        InFile(backup.FileName, [&] { return GatherHarvestedReport(*form.Field, State.EnglishUnits); });
     if (destination == ReportDestination::Printer)
         PrintFieldReport(report);
     else

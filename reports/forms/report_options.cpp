@@ -15,17 +15,16 @@ namespace {
 
 struct ReportKind {
     std::string_view Title;
-    std::string_view DefaultName;  ///< in the data directory
-    bool Printable;                ///< the dialog offers the printer as well
+    bool Printable;  ///< the dialog offers the printer as well
 };
 
 constexpr std::array<ReportKind, 3> Kinds{{
-    {"Save Irrigation Schedule", SavedSchedule.DefaultName, false},
-    {"Save Field Report", SavedFieldReport.DefaultName, false},
-    {"Field Report of Harvested Field", SavedFieldReport.DefaultName, true},
+    {"Save Irrigation Schedule", false},
+    {"Save Field Report", false},
+    {"Field Report of Harvested Field", true},
 }};
 
-std::string& LastName(frmReportOptions& form) { return form.LastNames[static_cast<std::size_t>(form.Report)]; }
+std::string& LastName(frmReportOptions& form) { return form.LastNames[form.ProposedName]; }
 
 void Choose(frmReportOptions& form, ReportDestination destination) {
     form.Destination = destination;
@@ -37,8 +36,7 @@ void Load(frmReportOptions& form) {
     Choose(form, ReportDestination::None);
     form.Caption = kind.Title;
     form.cmd_print.Visible = kind.Printable;
-    form.Txt_filename.Text =
-        LastName(form).empty() ? files::DirectoryPath() + std::string(kind.DefaultName) : LastName(form);
+    form.Txt_filename.Text = LastName(form).empty() ? files::DirectoryPath() + form.ProposedName : LastName(form);
 }
 
 /// The dialog ends with a choice.
@@ -47,9 +45,15 @@ void Leave(frmReportOptions& form, ReportDestination destination) {
     Unload(FormName::frmReportOptions);
 }
 
+/// Whether there is a file of that name which the user doesn't want to lose.
+bool KeepsOldFile(const std::string& path) {
+    return files::FileExists(path) && TheScreen().YesNo(path + " is there already. Keep it and choose another name?",
+                                                        "File Exists", Icon::Question, false);
+}
+
 void cmd_OK_Click(frmReportOptions& form) {
     const std::optional<std::string> path = ReportPath(TheScreen(), form.Txt_filename.Text, BareName::InDataDirectory);
-    if (!path) return;
+    if (!path || KeepsOldFile(*path)) return;
     State.ReportFileName = LastName(form) = *path;
     Leave(form, ReportDestination::Disk);
 }
@@ -72,14 +76,16 @@ FormTable TableOf(frmReportOptions& form) {
     done.Reset = [&form] {
         frmReportOptions fresh;
         fresh.Report = form.Report;
+        fresh.ProposedName = form.ProposedName;
         fresh.LastNames = form.LastNames;
         form = fresh;
     };
     return done;
 }
 
-ReportDestination ChooseDestination(SavedReport report) {
+ReportDestination ChooseDestination(SavedReport report, std::string_view proposedName) {
     The<frmReportOptions>().Report = report;
+    The<frmReportOptions>().ProposedName = proposedName;
     ShowModal(FormName::frmReportOptions);
     return The<frmReportOptions>().Destination;
 }

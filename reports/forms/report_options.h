@@ -1,7 +1,8 @@
 #pragma once
 
-#include <array>
+#include <map>
 #include <string>
+#include <string_view>
 
 #include "screen/form.h"
 
@@ -22,14 +23,15 @@ struct frmReportOptions : Form {
 
     // What the dialog keeps when it is opened anew
     SavedReport Report = SavedReport::Schedule;               ///< the one that it is opened for
-    std::array<std::string, 3> LastNames;                     ///< path that each report was saved to; empty: none yet
+    std::string ProposedName;                                 ///< of its file in the data directory
+    std::map<std::string, std::string> LastNames;             ///< path that the report so proposed was last saved to
     ReportDestination Destination = ReportDestination::None;  ///< how it was last left
 };
 
 FormTable TableOf(frmReportOptions& form);
 
-/// Lets the user choose. The file's path is then in `ReportFileName`. None, with `ReportCancelled` true, if they left
-/// the dialog.
-ReportDestination ChooseDestination(SavedReport report);
+/// Lets the user choose; where the report hasn't been saved yet, `proposedName` in the data directory stands there. The
+/// file's path is then in `ReportFileName`. None, with `ReportCancelled` true, if they left the dialog.
+ReportDestination ChooseDestination(SavedReport report, std::string_view proposedName);
 
 }  // namespace veraqua

@@ -2,6 +2,7 @@
 
 #include "core/state.h"
 #include "reports/field_report_print.h"
+#include "reports/report_file.h"
 #include "reports/schedule.h"
 #include "reports/schedule_print.h"
 #include "screen/screen.h"
@@ -15,7 +16,7 @@ void PrintFieldInWork() {
 }
 
 void SaveFieldInWork() {
-    if (ChooseDestination(SavedReport::Field) == ReportDestination::Disk)
+    if (ChooseDestination(SavedReport::Field, SavedFieldReport.DefaultName) == ReportDestination::Disk)
         SaveFieldReport(TheScreen(), State.CurrentField);
 }
 
@@ -31,7 +32,8 @@ void PrintFieldReport(const FieldReport& report) {
 }
 
 void SaveScheduleByDialog() {
-    if (ChooseDestination(SavedReport::Schedule) == ReportDestination::Disk) SaveSchedule(TheScreen());
+    if (ChooseDestination(SavedReport::Schedule, SavedSchedule.DefaultName) == ReportDestination::Disk)
+        SaveSchedule(TheScreen());
 }
 
 void RunFieldReport(ReportDestination destination) {

@@ -45,7 +45,8 @@ TEST_F(ReportName, MeansAPathOrIsRefusedWithTheFirstReasonThatHolds) {
     ExpectPath("July.txt", data + "July.txt");
     ExpectPath(data + "season\\July", data + "season/July");
     ExpectPath("Rübenfeld Süd (2).txt", data + "Rübenfeld Süd (2).txt");
-    ExpectRefused("", NoName);
+    for (const std::string blanks : {"", "  "})
+        for (const std::string directory : {"", data.c_str()}) ExpectRefused(directory + blanks, NoName);
     ExpectRefused(data + "winter\\July'.txt", NoDirectory(data + "winter"));
     ExpectRefused(data + "stat.dat/July.txt", NoDirectory(data + "stat.dat"));
     ExpectRefused(std::string(256, ':'), TooLong);
@@ -55,9 +56,10 @@ TEST_F(ReportName, MeansAPathOrIsRefusedWithTheFirstReasonThatHolds) {
 }
 
 TEST_F(ReportName, MayNotBeADataFileInTheDataDirectory) {
-    for (const std::string name : {"stat.dat", "Updates.dat", "CROP.DAT", "weathdef.dat", "network.txt", "Field100.dat",
-                                   "weather06.03", "KESTA.03", "0603rd.txt", "veraqua.lock", "veraqua.journal",
-                                   "North     _040503_ 1.dat", "Año Ñ     _040503_ 12.dat"}) {
+    for (const std::string name :
+         {"stat.dat", "Updates.dat", "CROP.DAT", "weathdef.dat", "network.txt", "Field100.dat", "weather06.03",
+          "KESTA.03", "0603rd.txt", "veraqua.lock", "veraqua.journal", "North     _040503_ 1.dat",
+          "Año Ñ     _040503_ 12.dat", "VeraGuide.doc", "old letters to banks.dat"}) {
         ExpectRefused(name, DataFile);
         ExpectRefused(Directory.Path() + "season/../" + name, DataFile);
         ExpectPath(Directory.Path() + "season/" + name, Directory.Path() + "season/" + name);

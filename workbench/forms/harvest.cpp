@@ -43,7 +43,7 @@ void mnuRestore_Click(frmField& form) {
     form.Backups.clear();
     for (const Backup& backup : backups) {
         form.Backups.push_back(backup.FileName);
-        form.ComboField.Add(backup.FileName + "  " + backup.CropName, static_cast<int>(form.Backups.size()));
+        form.ComboField.Add(ListText(backup), static_cast<int>(form.Backups.size()));
     }
     Focus(form.ComboField);
 }

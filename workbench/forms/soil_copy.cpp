@@ -36,8 +36,7 @@ void cmdDeleted_Click(frmCopySoilData& form) {
     form.DeletedFiles = FindBackups();
     if (form.DeletedFiles.empty()) TheScreen().Tell(NoBackupsText, "Warning");
     int number = 0;
-    for (const Backup& backup : form.DeletedFiles)
-        form.ComboDField.Add(fmt::format("{}  -  {}", backup.FieldId, backup.CropName), ++number);
+    for (const Backup& backup : form.DeletedFiles) form.ComboDField.Add(ListText(backup), ++number);
 }
 
 /// The soil format of the new field follows a mere preview.

@@ -15,7 +15,8 @@ using testing::SizeIs;
 struct HarvestedFields : ReportForms {
     HarvestedFields() {
         files::Write("Meadow    _010903_ 1.dat", FieldFileBytes(SmallHay()));
-        files::Write("North     _010903_ 1.dat", FieldFileBytes(SmallCrop().Id("NORTH Ñ")));
+        for (const char* name : {"North     _300903_ 2.dat", "old letters to banks.dat"})
+            files::Write(name, FieldFileBytes(SmallCrop().Id("NORTH Ñ")));
         State.IsHay = true;
         State.Hay.FieldId = "IN WORK";
         Show(FormName::frmSelectHarvested);
@@ -30,7 +31,9 @@ struct HarvestedFields : ReportForms {
 
 TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
     EXPECT_THAT(Screen.ComboDField.Items,
-                ElementsAre(ListItem{"Meadow  -  @Alfalfa", 0}, ListItem{"NORTH Ñ  -  Sugar Beet", 0}));
+                ElementsAre(ListItem{"Meadow  -  @Alfalfa  -  harvested 09-01-03", 0},
+                            ListItem{"NORTH Ñ  -  Sugar Beet  -  harvested 09-30-03 (2)", 0},
+                            ListItem{"NORTH Ñ  -  Sugar Beet  -  old letters to banks.dat", 0}));
     Choosing("cmd_OK");
     At user(FormName::frmSelectHarvested);
     user.Pick("ComboDField", 1).Click("cmdOK");
@@ -40,7 +43,7 @@ TEST_F(HarvestedFields, ArePreviewedAndReportedFromTheirBackups) {
     const std::size_t predictions = expected.find(" PREDICTIONS:");
     expected.erase(predictions, expected.find(" FIELD HISTORY") - predictions);
     expected.replace(expected.find("00.08 in"), 8, "00.16 in");
-    EXPECT_EQ(Directory.Raw("Field.txt"), expected);
+    EXPECT_EQ(Directory.Raw("Field NORTH Ñ 09-30-03 (2).txt"), expected);
 
     Choosing("cmd_print");
     user.Pick("ComboDField", 0).Click("cmdOK");
@@ -86,8 +89,11 @@ TEST_F(ReportDialog, KeepsTheNameThatEachReportUsedLast) {
         user.Type("Txt_filename", "north.txt").Press("Txt_filename", Event::EnterKey);
     });
     RunFieldReport(ReportDestination::Disk);
-    InDialog([](At& user) { user.Click("cmd_OK"); });
+    User.Answers = {true};  // keeps July.txt, and so stays in the dialog
+    InDialog([](At& user) { user.Click("cmd_OK").Click("cmd_OK"); });
     SaveScheduleByDialog();
+    EXPECT_EQ(User.LastAsked(), "File Exists: " + data + "July.txt is there already. Keep it and choose another name?");
+    InDialog([](At& user) { user.Click("cmd_OK"); });
     RunFieldReport(ReportDestination::Disk);
 
     EXPECT_THAT(

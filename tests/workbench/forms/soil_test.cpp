@@ -112,7 +112,8 @@ TEST_F(SoilTest, TheSoilOfABackupIsCopiedInMetricUnits) {
         At copy(FormName::frmCopySoilData);
         copy.Click("cmdDeleted");
         EXPECT_THAT(form.ComboDField.Items,
-                    testing::ElementsAre(ListItem{"B\u00fcel  -  @ALFALFA", 1}, ListItem{"  -  ", 2}));
+                    testing::ElementsAre(ListItem{"B\u00fcel  -  @ALFALFA  -  harvested 06-30-03", 1},
+                                         ListItem{"  -    -  crop notes of the yr.dat", 2}));
         copy.Pick("ComboDField", 0).Pick("ComboDField", 1);
         EXPECT_EQ(User.Failures.size(), 1U);  // the other file is no field; the preview stays
         EXPECT_EQ(form.txtData.Text,
