@@ -136,6 +136,9 @@ std::string ListedPrediction(NextDeed deed, std::optional<int> daysLeft) {
         case NextDeed::Harvest: return "Harvest";
         case NextDeed::Nothing: return "No irrigation needed";
         case NextDeed::Unknown: return "No data yet";
+        case NextDeed::Weather: return "Weather first";
+        case NextDeed::LookBack: return "Looking back";
+        case NextDeed::NotPlanted: return "Not planted yet";
         case NextDeed::Water: break;
     }
     if (!daysLeft) return "Over MAD";

@@ -66,7 +66,15 @@ std::string MovedPrediction(const StatRecord& row);
 std::string BriefPrediction(const StatRecord& row, bool english);
 
 /// What a grower does next about a field.
-enum class NextDeed { Water, Nothing, Harvest, Unknown };
+enum class NextDeed {
+    Water,
+    Weather,  ///< has to be brought in before anything can be said
+    Nothing,
+    Harvest,
+    LookBack,  ///< the field is computed past today, which the user has set back: what came next is no prediction
+    NotPlanted,
+    Unknown,
+};
 
 /// In the Today list. `daysLeft` until the irrigation is 0 if it is due or overdue, and nothing where it isn't
 /// predicted.

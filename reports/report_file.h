@@ -26,6 +26,7 @@ struct SavedAs {
 
 constexpr SavedAs SavedSchedule{"Your Irrigation Schedule", "Predict.txt"};
 constexpr SavedAs SavedFieldReport{"Your Field Report", "Field.txt"};
+constexpr SavedAs SavedTodayList{"Your list of fields", "Today.csv"};
 
 /// Name for the report of a harvested field: "Field NORTH 30 06-30-26.txt".
 std::string HarvestedReportName(const Backup& backup);

@@ -1,93 +1,42 @@
 #include "reports/today_list.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <optional>
+#include <sstream>
+#include <string>
 #include <string_view>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
 
 #include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/base/text_table.h"
-#include "core/directory.h"
 #include "core/state.h"
 #include "reports/depletion_warning.h"
 #include "reports/prediction_text.h"
 #include "reports/printed_lines.h"
 #include "reports/report_text.h"
+#include "reports/today_fields.h"
 
 namespace veraqua {
 
 namespace {
 
-/// Days that count as soon: so much notice a grower needs, and so late weather may come in.
-constexpr int SoonDays = 2;
-
-enum class Urgency { Now, Soon, Later };
-
-struct FieldToday {
-    int Row = 0;  ///< of the directory
-    StatRecord Stat;
-    NextDeed ToDo = NextDeed::Unknown;  ///< the later ones stand lower in the list
-    Urgency Urge = Urgency::Later;
-    bool HasDay = false;    ///< the next irrigation is predicted
-    int DaysLeft = 0;       ///< until then, 0 if it is due or overdue
-    JulianValue Known = 0;  ///< the last day whose state is known, by weather or by hand
-    int DaysBehind = 0;     ///< of the weather
-};
-
 bool IsHay(const StatRecord& stat) { return stat.CropName.First() == HayMark; }
 
-NextDeed DeedOf(const StatRecord& stat) {
-    if (stat.NextIrrAmount == AmountHarvest) return NextDeed::Harvest;
-    if (stat.NextIrrAmount > 0 || DepletionWarning(stat.Depletion, stat.MadNow)) return NextDeed::Water;
-    return stat.NextIrrAmount == AmountNotRequired ? NextDeed::Nothing : NextDeed::Unknown;
+/// The depletion of a day that is long past warns of nothing.
+std::optional<Colour> WarningOf(const FieldToday& field) {
+    if (field.ToDo == NextDeed::Weather || field.ToDo == NextDeed::NotPlanted) return std::nullopt;
+    return DepletionWarning(field.Stat.Depletion, field.Stat.MadNow);
 }
 
-Urgency UrgencyOf(const FieldToday& field) {
-    if (field.HasDay && field.DaysLeft == 0) return Urgency::Now;
-    const std::optional<Colour> warning = DepletionWarning(field.Stat.Depletion, field.Stat.MadNow);
-    if (warning == colours::Red) return Urgency::Now;
-    return warning || (field.HasDay && field.DaysLeft <= SoonDays) ? Urgency::Soon : Urgency::Later;
-}
-
-/// A field whose depletion was set by hand at or over its MAD isn't run on until it gets water, and one that is ripe
-/// has no use for weather: neither waits for it.
-int DaysBehind(const FieldToday& field, JulianValue setByHand) {
-    const bool waitsForWater =
-        setByHand >= field.Stat.LastDay && field.Stat.Depletion >= field.Stat.MadNow && field.HasDay;
-    if (waitsForWater || field.ToDo == NextDeed::Harvest) return 0;
-    return std::max(State.TodayJulian - 1 - field.Known, 0);
-}
-
-FieldToday FieldIn(int row) {
-    FieldToday field;
-    field.Row = row;
-    field.Stat = State.Stat[row];
-    field.ToDo = DeedOf(field.Stat);
-    field.HasDay = field.Stat.NextIrrAmount > 0;
-    if (field.HasDay) field.DaysLeft = std::max(field.Stat.NextIrrDay - State.TodayJulian, 0);
-    field.Urge = UrgencyOf(field);
-    field.Known = std::min(std::max(field.Stat.LastDay, State.Updates[row]), State.TodayJulian);
-    field.DaysBehind = DaysBehind(field, State.Updates[row]);
-    return field;
-}
-
-bool IsWorse(const FieldToday& a, const FieldToday& b) {
-    const auto key = [](const FieldToday& field) {
-        const double ofMad = field.Stat.Depletion / std::max<double>(field.Stat.MadNow, 1);
-        return std::tuple(field.ToDo, field.Urge, field.DaysLeft, -ofMad, field.Row);
-    };
-    return key(a) < key(b);
-}
-
-std::vector<FieldToday> FieldsToday() {
-    std::vector<FieldToday> fields;
-    for (const int row : RowsInUse()) fields.push_back(FieldIn(row));
-    std::sort(fields.begin(), fields.end(), IsWorse);
-    return fields;
+std::string OverMad(const FieldToday& field) {
+    return fmt::format("the depletion of {} % is over the MAD of {} %{}", field.Stat.Depletion, field.Stat.MadNow,
+                       WarningOf(field) == colours::Red ? " by more than a fifth" : "");
 }
 
 std::string WhatToDo(const FieldToday& field) {
@@ -96,7 +45,7 @@ std::string WhatToDo(const FieldToday& field) {
 
 /// Nothing is known of a field without data, so that nothing reassures either.
 std::optional<Colour> ColourOf(const FieldToday& field) {
-    if (field.ToDo == NextDeed::Unknown) return std::nullopt;
+    if (field.ToDo >= NextDeed::LookBack) return std::nullopt;
     switch (field.Urge) {
         case Urgency::Now: return colours::PaleRed;
         case Urgency::Soon: return colours::PaleYellow;
@@ -111,13 +60,9 @@ std::string Days(int count) { return fmt::format("{} {}", count, count == 1 ? "d
 
 constexpr double Behind = std::numeric_limits<double>::infinity();
 
-TableContent::Cell TextCell(std::string text, std::optional<Colour> background = {}) {
-    return {std::move(text), std::nullopt, background};
-}
+TableContent::Cell TextCell(std::string text) { return {std::move(text), {}, {}, {}}; }
 
-TableContent::Cell SortedCell(std::string text, double key, std::optional<Colour> background = {}) {
-    return {std::move(text), key, background};
-}
+TableContent::Cell SortedCell(std::string text, double key) { return {std::move(text), key, {}, {}}; }
 
 TableContent::Cell WholeNumberCell(int value) { return SortedCell(Masked(static_cast<double>(value), "0"), value); }
 
@@ -130,18 +75,55 @@ TableContent::Cell AmountCell(int millimetres) {
                       millimetres);
 }
 
-TableContent::Cell DepletionCell(const StatRecord& stat) {
-    TableContent::Cell cell = stat.Depletion < 0 ? SortedCell("Full", stat.Depletion) : WholeNumberCell(stat.Depletion);
-    if (const std::optional<Colour> warning = DepletionWarning(stat.Depletion, stat.MadNow))
-        cell.Background = warning == colours::Red ? colours::PaleRed : colours::PaleYellow;
+/// Why a field has its colour.
+std::string Reason(const FieldToday& field) {
+    if (field.ToDo == NextDeed::Weather)
+        return fmt::format("Yellow: the weather is {} behind, too long to say anything about today.",
+                           Days(field.DaysBehind));
+    if (field.ToDo == NextDeed::LookBack)
+        return fmt::format("Today has been set back; the field is computed through {}.",
+                           ReportDate(field.Stat.LastDay));
+    if (!ColourOf(field)) return "";
+    if (field.Urge == Urgency::Later)
+        return field.HasDay ? fmt::format("Green: there is time until {}.", ReportDate(field.Stat.NextIrrDay))
+                            : "Green: no water is needed.";
+    const std::string why = field.HasDay && field.DaysLeft <= SoonDays
+                                ? fmt::format("water is due on {}", ReportDate(field.Stat.NextIrrDay))
+                                : OverMad(field);
+    return fmt::format("{}: {}.", field.Urge == Urgency::Now ? "Red" : "Yellow", why);
+}
+
+TableContent::Cell ToDoCell(const FieldToday& field, int place) {
+    return {WhatToDo(field), place, ColourOf(field), Reason(field)};
+}
+
+TableContent::Cell DepletionCell(const FieldToday& field) {
+    const int depletion = field.Stat.Depletion;
+    TableContent::Cell cell = depletion < 0 ? SortedCell("Full", depletion) : WholeNumberCell(depletion);
+    if (const std::optional<Colour> warning = WarningOf(field)) {
+        const bool isRed = warning == colours::Red;
+        cell.Background = isRed ? colours::PaleRed : colours::PaleYellow;
+        cell.ToolTip = fmt::format("{}: {}.", isRed ? "Red" : "Yellow", OverMad(field));
+    }
     return cell;
 }
 
-TableContent::Cell WeatherCell(int daysBehind) {
-    const auto background = daysBehind > SoonDays ? std::optional(colours::PaleYellow) : std::nullopt;
-    return SortedCell(daysBehind > 0 ? Days(daysBehind) : "", daysBehind > 0 ? -daysBehind : Behind, background);
+/// What is missing, and of what is there what was not measured.
+TableContent::Cell WeatherCell(const FieldToday& field) {
+    if (field.DaysBehind == 0 && field.DefaultDays == 0) return SortedCell("", Behind);
+    std::vector<std::string> texts;
+    if (field.DaysBehind > 0) texts.push_back(fmt::format("{} behind", Days(field.DaysBehind)));
+    if (field.DefaultDays > 0) texts.push_back(fmt::format("{} by default", Days(field.DefaultDays)));
+    TableContent::Cell cell =
+        SortedCell(fmt::format("{}", fmt::join(texts, ", ")), -(1000.0 * field.DaysBehind + field.DefaultDays));
+    if (field.DaysBehind > SoonDays) {
+        cell.Background = colours::PaleYellow;
+        cell.ToolTip = fmt::format("Yellow: there is no weather after {}.", ReportDate(field.Known));
+    }
+    return cell;
 }
 
+constexpr std::string_view ComputedHeading = "Computed through";
 constexpr std::string_view DaysLeftHeading = "Days left";
 
 std::vector<TableContent::Column> Columns() {
@@ -149,30 +131,64 @@ std::vector<TableContent::Column> Columns() {
             {"Crop"},
             {"What to do"},
             {"Depletion %", true},
+            {"As of"},
             {"MAD %", true},
             {"Irrigate on"},
             {State.EnglishUnits ? "Amount (in.)" : "Amount (mm)", true},
             {std::string(DaysLeftHeading), true},
             {"Next cutting"},
-            {"Computed through"},
-            {"Weather behind"}};
+            {std::string(ComputedHeading)},
+            {"Weather"}};
 }
 
 /// `place` is that in the list.
 std::vector<TableContent::Cell> CellsOf(const FieldToday& field, int place) {
     const StatRecord& stat = field.Stat;
     const TableContent::Cell none = SortedCell("", Behind);
+    const bool isPlanted = field.ToDo != NextDeed::NotPlanted;
+    const bool isPast = field.ToDo == NextDeed::LookBack || !isPlanted;
     return {TextCell(stat.FieldId.Text()),
             TextCell(stat.CropName.Text()),
-            SortedCell(WhatToDo(field), place, ColourOf(field)),
-            DepletionCell(stat),
+            ToDoCell(field, place),
+            isPlanted ? DepletionCell(field) : none,
+            isPlanted ? DayCell(field.DepletionDay, ReportDate(field.DepletionDay)) : none,
             WholeNumberCell(stat.MadNow),
             field.HasDay ? DayCell(stat.NextIrrDay, ReportDate(stat.NextIrrDay)) : none,
             field.HasDay ? AmountCell(stat.NextIrrAmount) : none,
             field.HasDay ? WholeNumberCell(field.DaysLeft) : none,
-            IsHay(stat) ? DayCell(stat.NextCutDay, NextCutting(stat)) : none,
+            IsHay(stat) && !isPast ? DayCell(stat.NextCutDay, NextCutting(stat)) : none,
             DayCell(field.Known, ReportDate(field.Known)),
-            WeatherCell(field.DaysBehind)};
+            WeatherCell(field)};
+}
+
+// What the user looks for
+
+/// In upper case, accented letters too.
+std::string CapitalsOf(std::string_view text) {
+    std::string capitals = Latin1FromUtf8(text).value_or(std::string(text));
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), UpperCaseOfLatin1);
+    return capitals;
+}
+
+std::vector<std::string> Words(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+bool HasAll(const std::vector<TableContent::Cell>& cells, const std::vector<std::string>& words) {
+    return std::all_of(words.begin(), words.end(), [&](const std::string& word) {
+        return std::any_of(cells.begin(), cells.end(), [&](const TableContent::Cell& cell) {
+            return CapitalsOf(cell.Text).find(word) != std::string::npos;
+        });
+    });
+}
+
+/// A cell of a CSV file.
+std::string Quoted(const std::string& text) {
+    if (text.find_first_of(",\"\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + '"';
 }
 
 // On paper
@@ -189,9 +205,12 @@ TextTable::Column OnPaper(const TableContent& table, std::size_t index) {
     return {heading, table.Columns[index].IsNumeric ? TextTable::Side::Right : TextTable::Side::Left};
 }
 
-/// Without the days that are left, which the words in another column tell.
+/// Without what other columns tell as well: the days that are left, and through which day the field is computed.
 TextTable OnPaper(const TableContent& table) {
-    const auto printed = [&](std::size_t column) { return table.Columns[column].Heading != DaysLeftHeading; };
+    const auto printed = [&](std::size_t column) {
+        const std::string& heading = table.Columns[column].Heading;
+        return !table.Columns[column].IsHidden && heading != DaysLeftHeading && heading != ComputedHeading;
+    };
     std::vector<TextTable::Column> columns;
     for (std::size_t i = 0; i < table.Columns.size(); ++i)
         if (printed(i)) columns.push_back(OnPaper(table, i));
@@ -207,16 +226,34 @@ TextTable OnPaper(const TableContent& table) {
 
 }  // namespace
 
-void FillTodayList(TableContent& table) {
+void FillTodayList(TableContent& table, std::string_view filter) {
     const int selected = table.Selected() != nullptr ? table.Selected()->Data : 0;
-    table.Columns = Columns();
+    const std::vector<TableContent::Column> before = std::exchange(table.Columns, Columns());
+    for (std::size_t i = 0; i < before.size(); ++i) table.Columns[i].IsHidden = before[i].IsHidden;
     table.Rows.clear();
     table.Index = -1;
+    const std::vector<std::string> words = Words(CapitalsOf(filter));
+    int place = 0;
     for (const FieldToday& field : FieldsToday()) {
-        const int place = static_cast<int>(table.Rows.size());
-        if (field.Row == selected) table.Index = place;
-        table.Rows.push_back({CellsOf(field, place), field.Row});
+        std::vector<TableContent::Cell> cells = CellsOf(field, place++);
+        if (!HasAll(cells, words)) continue;
+        if (field.Row == selected) table.Index = static_cast<int>(table.Rows.size());
+        table.Rows.push_back({std::move(cells), field.Row});
     }
+}
+
+std::string TodayListCsv(const TableContent& table) {
+    std::vector<std::string> line;
+    for (const TableContent::Column& column : table.Columns)
+        if (!column.IsHidden) line.push_back(Quoted(column.Heading));
+    std::string text = fmt::format("{}\n", fmt::join(line, ","));
+    for (const TableContent::Row& row : table.Rows) {
+        line.clear();
+        for (std::size_t i = 0; i < row.Cells.size(); ++i)
+            if (!table.Columns[i].IsHidden) line.push_back(Quoted(row.Cells[i].Text));
+        text += fmt::format("{}\n", fmt::join(line, ","));
+    }
+    return text;
 }
 
 std::string TodaySummary() {

@@ -35,9 +35,21 @@ bool Open(FormTable& form) {
     return form.Loaded;
 }
 
+/// Lets the forms that stay open keep up with what an event has changed. One that can't ends.
+void LetFormsFollow() {
+    for (FormTable& form : Forms()) {
+        if (!form.Loaded || !form.Follow) continue;
+        try {
+            form.Follow();
+        } catch (const RunTimeFailure&) {  // of a file that the event's own message is about
+            Unload(form.Name);
+        }
+    }
+}
+
 /// Runs a function of `form` as an event.
 template <class Function>
-bool AsEvent(FormTable& form, Function function) {
+bool RunAsEvent(FormTable& form, Function function) {
     try {
         return function();
     } catch (const RunTimeFailure& failure) {  // ends the event, not the program
@@ -48,6 +60,22 @@ bool AsEvent(FormTable& form, Function function) {
         if (nothingLeft && form.Loaded) Show(form.Name);
         return false;
     }
+}
+
+/// The same, and lets the other forms follow. While a form has the user to itself, the event that opened it goes on.
+template <class Function>
+bool AsEvent(FormTable& form, Function function) {
+    static int depth = 0;
+    struct Deeper {
+        Deeper() { ++depth; }
+        ~Deeper() { --depth; }
+        Deeper(const Deeper&) = delete;
+        Deeper& operator=(const Deeper&) = delete;
+    };
+    const Deeper event;
+    const bool passed = RunAsEvent(form, function);
+    if (depth == 1) LetFormsFollow();
+    return passed;
 }
 
 }  // namespace
@@ -86,6 +114,22 @@ std::vector<FormTable*> AllForms() {
 void Show(FormName name) {
     FormTable& form = FormOf(name);
     if (Open(form)) TheScreen().Present(form);
+}
+
+void ShowFilled(FormName name) {
+    FormTable& form = FormOf(name);
+    const bool wasShown = form.Shown;
+    if (!Open(form)) return;
+    form.Shown = wasShown;  // it comes up when it is filled
+    try {
+        Fill(name);
+    } catch (const RunTimeFailure&) {
+        Unload(name);
+        throw;
+    }
+    if (!form.Loaded) return;
+    form.Shown = true;
+    TheScreen().Present(form);
 }
 
 void ShowModal(FormName name) {

@@ -25,7 +25,11 @@ std::vector<FormTable*> AllForms();
 /// Loads the form if it isn't, and brings it to the user.
 void Show(FormName name);
 
-/// The same, and returns when it has been hidden or unloaded again.
+/// Loads the form if it isn't, has it fill itself, and brings it to the user. One that can't be filled isn't left
+/// there: it ends itself, or the failure ends it.
+void ShowFilled(FormName name);
+
+/// As `Show`, and returns when it has been hidden or unloaded again.
 void ShowModal(FormName name);
 
 /// Takes a form away but keeps what stands in it.

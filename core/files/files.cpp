@@ -39,6 +39,11 @@ struct OpenDirectory {
     bool ReadsOnce = false;
 };
 
+std::uint64_t& Commits() {
+    static std::uint64_t commits = 0;
+    return commits;
+}
+
 std::optional<OpenDirectory>& Current() {
     static std::optional<OpenDirectory> current;
     return current;
@@ -158,6 +163,7 @@ void CommitOutermost(OpenDirectory& opened) {
     Changes real = RealChanges(opened, wanted);
     if (real.empty()) return;
     assert(opened.Lock.IsHeld());
+    ++Commits();
     try {
         CommitChanges(opened.Directory, real);
     } catch (const RecordedFailure& failure) {  // from here on the change counts
@@ -294,6 +300,8 @@ void Rename(std::string_view from, std::string_view to) {
     changes[LowerCase(to)] = {std::string(to), contents};
     set.Commit();
 }
+
+std::uint64_t ChangesMade() { return Commits(); }
 
 ReadingOnce::ReadingOnce() {
     assert(!Opened().ReadsOnce && Opened().Sets.empty() && Opened().Lock.IsHeld());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -75,6 +76,9 @@ class ChangeSet {
     std::size_t depth_;  ///< 1 for the outermost set
     bool committed_ = false;
 };
+
+/// How many sets of changes this program has made true: what was read before holds as long as it stays the same.
+std::uint64_t ChangesMade();
 
 /// While it lives, a file is read from the disk once, across change sets too: for a deed in a directory whose lock this
 /// program holds, so that nobody else changes a file meanwhile.

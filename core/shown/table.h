@@ -14,12 +14,14 @@ struct TableContent {
     struct Column {
         std::string Heading;
         bool IsNumeric = false;  ///< set to the right
+        bool IsHidden = false;   ///< the user doesn't want to see it
     };
 
     struct Cell {
         std::string Text;
         std::optional<double> SortKey;  ///< what the row goes by where the column is sorted; nothing: the text
         std::optional<Colour> Background;
+        std::string ToolTip;  ///< why it has its colour
 
         bool operator==(const Cell&) const = default;
     };

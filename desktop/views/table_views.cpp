@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -160,6 +161,12 @@ class TableView : public WidgetView<Table, QTableView> {
                          [this](const QModelIndex& current) {
                              if (!IsBringing()) Record().Index = parts_.RecordRowOf(current);
                          });
+        for (QWidget* place : {static_cast<QWidget*>(&shown), static_cast<QWidget*>(shown.horizontalHeader())}) {
+            place->setContextMenuPolicy(Qt::CustomContextMenu);
+            QObject::connect(place, &QWidget::customContextMenuRequested, &shown,
+                             [this, place](const QPoint& where) { OfferColumns(place->mapToGlobal(where)); });
+        }
+        shown.horizontalHeader()->setToolTip("A click sorts, a right click chooses the columns.");
     }
 
   private:
@@ -178,6 +185,28 @@ class TableView : public WidgetView<Table, QTableView> {
             QStandardItemModel& cells = parts_.Cells();
             for (const Table::Row& row : filled_) cells.appendRow(ItemsOf(row, cells.rowCount()));
         });
+        HideColumns();
+    }
+
+    /// Lets the user choose which columns to see; one always stays.
+    void OfferColumns(const QPoint& where) {
+        QMenu menu(&Shown());
+        std::vector<Table::Column>& columns = Record().Columns;
+        const auto seen = std::ranges::count(columns, false, &Table::Column::IsHidden);
+        for (Table::Column& column : columns) {
+            QAction* entry = menu.addAction(ToQt(column.Heading));
+            entry->setCheckable(true);
+            entry->setChecked(!column.IsHidden);
+            entry->setEnabled(column.IsHidden || seen > 1);
+            QObject::connect(entry, &QAction::toggled, &menu, [&column](bool show) { column.IsHidden = !show; });
+        }
+        menu.exec(where);
+        HideColumns();
+    }
+
+    void HideColumns() {
+        for (std::size_t i = 0; i < Record().Columns.size(); ++i)
+            Shown().setColumnHidden(static_cast<int>(i), Record().Columns[i].IsHidden);
     }
 
     bool IsNumeric(int column) const { return Record().Columns[static_cast<std::size_t>(column)].IsNumeric; }
@@ -188,6 +217,7 @@ class TableView : public WidgetView<Table, QTableView> {
             QStandardItem* item = MakeCell(ToQt(cell.Text), IsNumeric(static_cast<int>(items.size())));
             item->setData(cell.SortKey ? QVariant(*cell.SortKey) : QVariant(ToQt(cell.Text)), SortRole);
             item->setData(place, RowRole);
+            if (!cell.ToolTip.empty()) item->setToolTip(ToQt(cell.ToolTip));
             if (cell.Background) {
                 item->setBackground(QColor(cell.Background->Red, cell.Background->Green, cell.Background->Blue));
                 item->setForeground(Qt::black);

@@ -47,13 +47,16 @@ void ShowDirectoryRow(frmFieldDetails& form, const StatRecord& row) {
 
 void Fill(frmFieldDetails& form) {
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
-    if (!file) return;
+    if (!file) return Unload(FormName::frmFieldDetails);
     const StatRecord& row = State.Stat[State.CurrentField];
     ShowDetails(form, InFile(FieldFileTitle(State.CurrentField),
                              [&] { return DetailsOf(*file, row, State.TodayJulian, State.EnglishUnits); }));
     ShowDirectoryRow(form, row);
     ShowFieldIn(form.StatusBar1);
+    form.Shown = FieldShownNow();
 }
+
+void Follow(frmFieldDetails& form) { FollowField(FormName::frmFieldDetails, form.Shown); }
 
 void cmdPrint_Click(frmFieldDetails&) { PrintForm(FormName::frmFieldDetails); }
 
@@ -112,7 +115,7 @@ FormTable TableOf(frmFieldDetails& form) {
     table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
     table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
     table.Add("StatusBar1", form.StatusBar1);
-    table.Fill(Fill).Close(cmdExit_Click);
+    table.Fill(Fill).Follow(Follow).Close(cmdExit_Click);
     return table.Done();
 }
 

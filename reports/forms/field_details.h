@@ -3,6 +3,7 @@
 #include <array>
 
 #include "reports/field_details.h"
+#include "reports/forms/shown_field.h"
 #include "reports/forms/shown_text.h"
 #include "screen/form.h"
 
@@ -53,6 +54,8 @@ struct frmFieldDetails : Form {
     Button cmdPrint{"PRINT"};
     Button cmdExit{"<-GO BACK"};
     StatusBar StatusBar1;
+
+    ShownField Shown;
 };
 
 FormTable TableOf(frmFieldDetails& form);

@@ -20,13 +20,14 @@ void ShowHeadings(FieldHistory& form, bool isHay) {
     for (std::size_t i = 0; i < form.lblHd.size(); ++i) form.lblHd[i].Caption = headings[i];
 }
 
-void FillHistory(FieldHistory& form) {
+void FillHistory(FieldHistory& form, FormName name, bool isHay) {
     if (State.CurrentField == 0) {
         TheScreen().Tell("Please select or initialize a field before choosing this option", "Information Message");
-        return;
+        return Unload(name);
     }
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
-    if (!file) return;
+    if (!file) return Unload(name);
+    ShowHeadings(form, isHay);
     form.Lines = InFile(FieldFileTitle(State.CurrentField), [&] { return HistoryLines(*file, State.EnglishUnits); });
     form.txtData.Text = fmt::format("{}", fmt::join(form.Lines, "\n"));
     form.txtID.Text = IdInWork();
@@ -34,10 +35,11 @@ void FillHistory(FieldHistory& form) {
     form.txtPDate.Text = PlantingDateInWork();
     ShowPrediction(PlainPrediction(State.Stat[State.CurrentField], State.EnglishUnits), form.txtIDate, form.txtIrrAmnt);
     form.Caption = FieldTitle();
+    form.Shown = FieldShownNow();
 }
 
 void PrintHistory(const FieldHistory& form, bool isHay) {
-    PrintDocument(PrintedHistory(form.Lines, form.txtID.Text, form.Caption, isHay, State.EnglishUnits),
+    PrintDocument(PrintedHistory(form.Lines, form.txtID.Text, form.Caption, isHay, form.Shown.English),
                   FieldReportSent);
 }
 
@@ -62,7 +64,9 @@ FormTable HistoryTable(F& form, std::string_view text) {
     table.Add("cmdPrint", form.cmdPrint).Click([](F&) { PrintForm(Name); });
     table.Add("cmdPrintAll", form.cmdPrintAll).Click([](F& shown) { PrintHistory(shown, isHay); });
     table.Add("Cmd_Exit", form.Cmd_Exit).Click(exit).Exit();
-    table.Load([](F& shown) { ShowHeadings(shown, isHay); }).Fill([](F& shown) { FillHistory(shown); }).Close(exit);
+    table.Load([](F& shown) { ShowHeadings(shown, isHay); });
+    table.Fill([](F& shown) { FillHistory(shown, Name, isHay); });
+    table.Follow([](F& shown) { FollowField(Name, shown.Shown); }).Close(exit);
     return table.Done();
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "reports/forms/shown_field.h"
 #include "reports/forms/shown_text.h"
 #include "screen/form.h"
 
@@ -36,6 +37,7 @@ struct FieldHistory : Form {
     Button Cmd_Exit{"<-GO BACK"};
 
     std::vector<std::string> Lines;  ///< of the table, as shown
+    ShownField Shown;
 };
 
 struct frmFieldHistory : FieldHistory {};

@@ -26,10 +26,14 @@ void Fill(frmFieldData& form) {
                    form.txtIrrAmnt);
     ShowFieldIn(form.StatusBar1);
     form.StatusBar1.Panels[0] = fmt::format("Field={}  ID={}", State.CurrentField, IdInWork());
+    form.Title = FieldTitle();
+    form.Shown = FieldShownNow();
 }
 
+void Follow(frmFieldData& form) { FollowField(FormName::frmFieldData, form.Shown); }
+
 void cmdPrint_Click(frmFieldData& form) {
-    form.lblPrinted.Caption = FieldTitle();
+    form.lblPrinted.Caption = form.Title;
     form.lblPrinted.Visible = true;
     PrintForm(FormName::frmFieldData);
     form.lblPrinted.Visible = false;
@@ -57,7 +61,7 @@ FormTable TableOf(frmFieldData& form) {
     table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
     table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Fill(Fill).Close(cmdExit_Click);
+    table.Load(Load).Fill(Fill).Follow(Follow).Close(cmdExit_Click);
     return table.Done();
 }
 

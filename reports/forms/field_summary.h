@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/forms/shown_field.h"
 #include "reports/forms/shown_text.h"
 #include "screen/form.h"
 
@@ -25,6 +26,9 @@ struct frmFieldData : Form {
     Button cmdPrint{"PRINT"};
     Button cmdExit{"<-GO BACK"};
     StatusBar StatusBar1;
+
+    ShownField Shown;
+    std::string Title;  ///< of that field
 };
 
 FormTable TableOf(frmFieldData& form);

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "core/base/numbers.h"
+#include "core/files/files.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -51,6 +52,7 @@ void DrawFrom(frmGraphs& form, int first) {
 }
 
 void Sort(frmGraphs& form, GraphOrder order) {
+    form.Order = order;
     SortGraphRows(form.Rows, order);
     DrawFrom(form, form.FirstShown);
 }
@@ -71,6 +73,21 @@ void m_prior12_Click(frmGraphs& form) {
     if (form.FirstShown == 1)
         return TheScreen().Tell(fmt::format("You're already displaying your first {} fields.", State.DisplayDays));
     DrawFrom(form, std::max(1, form.FirstShown - State.DisplayDays));
+}
+
+void Take(frmGraphs& form, std::vector<GraphRow> rows) {
+    form.Rows = std::move(rows);
+    form.Changes = files::ChangesMade();
+    form.Today = State.TodayJulian;
+}
+
+/// The bars keep up with the fields; the user stays where they are.
+void Follow(frmGraphs& form) {
+    if (form.Rows.empty() || (form.Changes == files::ChangesMade() && form.Today == State.TodayJulian)) return;
+    Take(form, GraphRows(TheScreen()));
+    if (form.Rows.empty()) return Unload(FormName::frmGraphs);
+    if (form.Order) SortGraphRows(form.Rows, *form.Order);
+    DrawFrom(form, std::min(form.FirstShown, static_cast<int>(form.Rows.size())));
 }
 
 /// Back to the workbench with the field in work.
@@ -94,7 +111,7 @@ void ShowFieldDisplays() {
     Show(FormName::frmGraphs);
     frmGraphs& form = The<frmGraphs>();
     form.Caption = "Field Graphs";
-    form.Rows = std::move(rows);
+    Take(form, std::move(rows));
     DrawFrom(form, 1);
     Hide(FormName::frmField);
 }
@@ -121,7 +138,7 @@ FormTable TableOf(frmGraphs& form) {
     table.Add("m_prior12", form.m_prior12).Click(m_prior12_Click);
     table.Add("m_next12", form.m_next12).Click(m_next12_Click);
     table.Add("m_exit", form.m_exit).Click(m_exit_Click);
-    table.Close(m_exit_Click);
+    table.Follow(Follow).Close(m_exit_Click);
     return table.Done();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "reports/graph_rows.h"
@@ -33,6 +35,9 @@ struct frmGraphs : Form {
     MenuItem m_exit{"<-GO BACK"};
 
     std::vector<GraphRow> Rows;
+    std::optional<GraphOrder> Order;  ///< that the user has chosen; nothing: that of the directory
+    std::uint64_t Changes = 0;        ///< of the files and of today, that the rows were read with
+    JulianValue Today = 0;
     int FirstShown = 0;  ///< of the sorted rows, from 1
     int LastShown = 0;
     std::vector<std::shared_ptr<frmFieldGraph>> Panels;  ///< by position; those with a field are `Shown`

@@ -18,10 +18,11 @@ struct ReportKind {
     bool Printable;  ///< the dialog offers the printer as well
 };
 
-constexpr std::array<ReportKind, 3> Kinds{{
+constexpr std::array<ReportKind, 4> Kinds{{
     {"Save Irrigation Schedule", false},
     {"Save Field Report", false},
     {"Field Report of Harvested Field", true},
+    {"Save List of Fields", false},
 }};
 
 std::string& LastName(frmReportOptions& form) { return form.LastNames[form.ProposedName]; }

@@ -10,7 +10,7 @@
 namespace veraqua {
 
 /// The reports that can be saved.
-enum class SavedReport { Schedule, Field, HarvestedField };
+enum class SavedReport { Schedule, Field, HarvestedField, TodayList };
 
 enum class ReportDestination { None, Disk, Printer };
 

@@ -14,13 +14,16 @@ namespace {
 void Load(frmSeasonChart& form) { form.Caption = "Season Chart, Veraqua " + State.VersionString; }
 
 void FillForm(frmSeasonChart& form) {
-    if (State.CurrentField == 0) return;
+    if (State.CurrentField == 0) return Unload(FormName::frmSeasonChart);
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return Unload(FormName::frmSeasonChart);
     form.Chart1.Show(SeasonChart(*file, State.Stat[State.CurrentField], State.TodayJulian, State.EnglishUnits));
     ShowFieldIn(form.StatusBar1);
     form.Caption = FieldTitle();
+    form.Shown = FieldShownNow();
 }
+
+void Follow(frmSeasonChart& form) { FollowField(FormName::frmSeasonChart, form.Shown); }
 
 void cmdPrint_Click(frmSeasonChart&) { PrintForm(FormName::frmSeasonChart); }
 void cmdExit_Click(frmSeasonChart&) { Unload(FormName::frmSeasonChart); }
@@ -33,7 +36,7 @@ FormTable TableOf(frmSeasonChart& form) {
     table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);
     table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Fill(FillForm).Close(cmdExit_Click);
+    table.Load(Load).Fill(FillForm).Follow(Follow).Close(cmdExit_Click);
     return table.Done();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/forms/shown_field.h"
 #include "screen/chart.h"
 #include "screen/form.h"
 
@@ -11,6 +12,8 @@ struct frmSeasonChart : Form {
     Button cmdPrint{"PRINT"};
     Button cmdExit{"<-GO BACK"};
     StatusBar StatusBar1;
+
+    ShownField Shown;
 };
 
 FormTable TableOf(frmSeasonChart& form);

@@ -5,6 +5,8 @@
 #include "core/directory.h"
 #include "core/files/files.h"
 #include "core/state.h"
+#include "reports/forms/report_options.h"
+#include "reports/report_file.h"
 #include "reports/today_list.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -45,12 +47,12 @@ void cmdfields_Click(frmVeraqua&) {
 }
 
 void ShowToday(frmVeraqua& form) {
-    FillTodayList(form.Today);
-    const bool hasFields = !form.Today.Rows.empty();
+    FillTodayList(form.Today, form.txtFilter.Text);
+    const bool hasFields = State.FieldCount > 0;
     form.lblTodayNote.Caption = hasFields ? TodaySummary() + " Open a field with a double click or Enter."
                                           : "No fields yet. Click on Field Options to add one.";
-    form.cmdOpenToday.Enabled = hasFields;
-    form.cmdPrintToday.Enabled = hasFields;
+    for (Button* button : {&form.cmdOpenToday, &form.cmdPrintToday, &form.cmdSaveToday})
+        button->Enabled = !form.Today.Rows.empty();
 }
 
 void Today_Click(frmVeraqua& form) {
@@ -69,6 +71,11 @@ void cmdOpenToday_Click(frmVeraqua& form) {
 
 void cmdPrintToday_Click(frmVeraqua& form) {
     PrintDocument(PrintedTodayList(form.Today), "The list of fields was sent to your default printer");
+}
+
+void cmdSaveToday_Click(frmVeraqua& form) {
+    if (ChooseDestination(SavedReport::TodayList, SavedTodayList.DefaultName) == ReportDestination::Disk)
+        SaveReport(TheScreen(), SavedTodayList, TodayListCsv(form.Today));
 }
 
 void cmdWeather_Click(frmVeraqua&) {
@@ -115,10 +122,13 @@ FormTable TableOf(frmVeraqua& form) {
     table.Add("Label8", form.Label8);
     table.Add("cmdExit", form.cmdExit).Click(cmdExit_Click).Exit();
     table.Add("lblToday", form.lblToday);
+    table.Add("lblFilter", form.lblFilter);
+    table.Add("txtFilter", form.txtFilter).Change(ShowToday);
     table.Add("Today", form.Today).Click(Today_Click);
     table.Add("lblTodayNote", form.lblTodayNote);
     table.Add("cmdOpenToday", form.cmdOpenToday).Click(cmdOpenToday_Click);
     table.Add("cmdPrintToday", form.cmdPrintToday).Click(cmdPrintToday_Click);
+    table.Add("cmdSaveToday", form.cmdSaveToday).Click(cmdSaveToday_Click);
     table.Add("StatusBar1", form.StatusBar1);
     table.Load(Load).Appear(ShowToday).Fill(ShowToday).Close(cmdExit_Click).Unload(Unloaded);
     return table.Done();

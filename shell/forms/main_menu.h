@@ -25,9 +25,12 @@ struct frmVeraqua : Form {
     // What is to be done today, as of each time that this window comes up
     Label lblToday{"Today"};
     Table Today;  ///< a field in each row; opening it goes to the field
+    Label lblFilter{"Find:"};
+    TextBox txtFilter;  ///< words that the rows shown must have
     Label lblTodayNote;
     Button cmdOpenToday{"Open field"};
     Button cmdPrintToday{"Print list"};
+    Button cmdSaveToday{"Save list", "As CSV, for a spreadsheet"};
 
     StatusBar StatusBar1;
 };

@@ -76,12 +76,12 @@ TEST_F(TodayOfFields, StandWorstFirstInWordsAndColours) {
     State.EnglishUnits = false;
     EXPECT_EQ(Lines({"Field", "Amount (mm)"})[5], "LATER; 43");
     EXPECT_EQ(List.Index, 5);                               // still the same field
-    EXPECT_GT(*List.Rows[7].Cells[5].SortKey, MayDay(31));  // nothing stands behind any day
+    EXPECT_GT(*List.Rows[7].Cells[6].SortKey, MayDay(31));  // nothing stands behind any day
 }
 
 TEST_F(TodayOfFields, TellThroughWhichDayTheyAreKnown) {
     State.TodayJulian = MayDay(20);
-    Field(1, "STALE", 43, MayDay(25));
+    Field(1, "STALE", 43, MayDay(5), 70);
     Field(2, "RIPE", AmountHarvest).NextIrrDay = 0;  // its season is over: no weather is missing
     Field(3, "BY HAND", 43, MayDay(19), 70).LastDay = MayDay(18);
     State.Updates[3] = MayDay(19);  // waits for water, whatever the weather
@@ -91,20 +91,63 @@ TEST_F(TodayOfFields, TellThroughWhichDayTheyAreKnown) {
     StatRecord& hay = Field(6, "CREEK", 43, MayDay(25));
     hay.CropName = "@ALFALFA";
     hay.LastDay = MayDay(18);
-    EXPECT_THAT(Lines({"Field", "Next cutting", "Computed through", "Weather behind"}),
-                testing::ElementsAre("BY HAND; -; 05-19-03; -", "STALE; -; 05-03-03; 16 days (yellow)",
-                                     "WEEK OLD; -; 05-13-03; 6 days (yellow)", "AHEAD; -; 05-20-03; -",
-                                     "CREEK; No Data Yet!; 05-18-03; 1 day", "RIPE; -; 05-03-03; -"));
+    EXPECT_THAT(
+        Lines({"Field", "What to do", "Depletion %", "Next cutting", "Computed through", "Weather"}),
+        testing::ElementsAre("BY HAND; Irrigate now (red); 70 (red); -; 05-19-03; -",
+                             "STALE; Weather first (yellow); 70; -; 05-03-03; 16 days behind (yellow)",
+                             "WEEK OLD; Irrigate in 5 days (green); 40; -; 05-13-03; 6 days behind (yellow)",
+                             "CREEK; Irrigate in 5 days (green); 40; No Data Yet!; 05-18-03; 1 day behind",
+                             "RIPE; Harvest (green); 40; -; 05-03-03; -", "AHEAD; Looking back; 40; -; 05-20-03; -"));
     hay.NextCutDay = MayDay(30);
-    EXPECT_EQ(Lines({"Next cutting"})[4], "05-30-03");
+    EXPECT_EQ(Lines({"Next cutting"})[3], "05-30-03");
     EXPECT_EQ(TodaySummary(), "6 fields, 1 needs water. Weather is up to 16 days behind.");
 }
 
-TEST_F(TodayOfFields, ArePrintedOnOnePageInTheWidthOfTheSchedule) {
+/// 28, -5 and 45 % are what schedule and bars show of the rows of 2, 3 and 4 May.
+TEST_F(TodayOfFields, HaveTheDepletionOfThePresentDayFromTheirFiles) {
+    for (const int row : {1, 2}) SmallCrop().StoreAt(row);
+    State.Stat[1].LastDay = MayDay(3);
+    State.Stat[2].LastDay = MayDay(2);
+    Field(3, "LOST", 43, MayDay(9));
+    const auto before = State.Stat;
+    const auto inOrderOfRows = [&] {
+        Lines({});
+        std::ranges::sort(List.Rows, {}, &TableContent::Row::Data);
+        std::vector<std::string> texts;
+        for (const TableContent::Row& row : List.Rows)
+            texts.push_back(row.Cells[2].Text + "; " + row.Cells[3].Text + "; " + row.Cells[4].Text);
+        return texts;
+    };
+    EXPECT_THAT(inOrderOfRows(), testing::ElementsAre("No data yet; 45; 05-04-03", "No data yet; Full; 05-03-03",
+                                                      "Irrigate in 5 days; 40; 05-03-03"));
+    State.TodayJulian = MayDay(2);
+    EXPECT_THAT(inOrderOfRows(), testing::ElementsAre("Looking back; 28; 05-02-03", "No data yet; 28; 05-02-03",
+                                                      "Looking back; 40; 05-03-03"));
+    State.TodayJulian = MayDay(1) - 1;
+    EXPECT_THAT(inOrderOfRows(),
+                testing::ElementsAre("Not planted yet; ; ", "Not planted yet; ; ", "Looking back; 40; 05-03-03"));
+    for (const int row : {1, 2, 3}) EXPECT_EQ(State.Stat[row], before[row]);
+}
+
+TEST_F(TodayOfFields, AreFoundByWordsAndSavedAsShown) {
+    Field(1, "AÑO, 7", 43, MayDay(7));
+    Field(2, "WEST", AmountHarvest);
+    List.Index = -1;
+    FillTodayList(List, "maize año");
+    ASSERT_EQ(List.Rows.size(), 1U);
+    EXPECT_EQ(List.Rows[0].Data, 1);
+    for (std::size_t i = 3; i < List.Columns.size(); ++i) List.Columns[i].IsHidden = true;
+    FillTodayList(List);
+    EXPECT_EQ(TodayListCsv(List),
+              "Field,Crop,What to do\n\"AÑO, 7\",MAIZE GRAIN,Irrigate in 3 days\nWEST,MAIZE GRAIN,Harvest\n");
+    EXPECT_EQ(List.Rows[0].Cells[2].ToolTip, "Green: there is time until 05-07-03.");
+}
+
+TEST_F(TodayOfFields, ArePrintedOnOnePage) {
     Field(1, "NÖRD 40 EA", 3048, MayDay(5) + 98, 100).CropName = "SPRING BARLEY";
     Field(2, "WEST", AmountNotRequired).NextCutDay = MayDay(30);
     State.Stat[2].CropName = "@BERMUDA HAY";
-    State.Stat[1].LastDay = MayDay(3) - 99;
+    State.Stat[1].LastDay = MayDay(3) - 5;
     FillTodayList(List);
     const PrintedDocument paper = PrintedTodayList(List);
     EXPECT_TRUE(paper.OnOnePage);

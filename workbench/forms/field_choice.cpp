@@ -176,9 +176,6 @@ void ShowNext(frmField& form) {
     form.lblNext.Visible = true;
 }
 
-void ShowFieldData() {
-    Show(FormName::frmFieldData);
-    Fill(FormName::frmFieldData);
-}
+void ShowFieldData() { ShowFilled(FormName::frmFieldData); }
 
 }  // namespace veraqua

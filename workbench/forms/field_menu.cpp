@@ -41,11 +41,6 @@ void ChangeTo(FormName form) {
     Hide(FormName::frmField);
 }
 
-void ShowFilled(FormName form) {
-    Show(form);
-    Fill(form);
-}
-
 void cmd_Cancel_Click(frmField& form) { SelectNothing(form); }
 
 void MnuPred_Click(frmField& form) {

@@ -42,6 +42,45 @@ TEST_F(FieldScreen, DetailsOfACropAreAsExpected) {
     EXPECT_EQ(ShownOn(FormName::frmFieldDetails), ExpectedText("details_crop"));
 }
 
+TEST_F(FieldScreen, StaysWithTheFieldAndTheUnitsThatItShows) {
+    Stored(3, SmallCrop(), 43, MayDay(5));
+    Stored(4, SmallCrop().Id("OTHER"), 43, MayDay(6));
+    const std::vector<FormName> windows{FormName::frmFieldData, FormName::frmFieldDetails, FormName::frmFieldHistory,
+                                        FormName::frmSeasonChart};
+    for (const FormName form : windows) Shown(form);
+    const auto anyEvent = [] {
+        Show(FormName::frmReportOptions);
+        At(FormName::frmReportOptions).Click("cmd_cancel");
+    };
+
+    State.EnglishUnits = false;
+    anyEvent();
+    EXPECT_EQ(The<frmFieldHistory>().lblHd[2].Caption, "AWC (cm)");
+    At(FormName::frmFieldHistory).Click("cmdPrintAll");
+    EXPECT_THAT(OnPaper(User.Printed.back()), HasSubstr("(cm)      %    (C)"));
+    SmallCrop().Rain(MayDay(4), 9).StoreAt(3);
+    anyEvent();
+    EXPECT_THAT(ShownOn(FormName::frmFieldDetails), HasSubstr("05-04-03     9.0 mm"));
+
+    SelectField(User, 4);
+    anyEvent();
+    for (const FormName form : windows) EXPECT_FALSE(IsLoaded(form));
+}
+
+TEST_F(FieldScreen, DoesNotComeUpWhereItCannotBeFilled) {
+    Stored(3, SmallCrop().Capacity({0, 0, 0}), 43, MayDay(5));
+    SelectField(User, 3);
+    for (const FormName form : {FormName::frmFieldDetails, FormName::frmFieldHistory, FormName::frmSeasonChart}) {
+        EXPECT_THROW(ShowFilled(form), RunTimeFailure);
+        files::Remove("field3.dat");
+        ShowFilled(form);  // the user is told that it is missing
+        EXPECT_FALSE(IsLoaded(form));
+        SmallCrop().Capacity({0, 0, 0}).StoreAt(3);
+    }
+    EXPECT_EQ(User.Told.size(), 3U);
+    EXPECT_THAT(User.Presented, testing::IsEmpty());
+}
+
 TEST_F(FieldScreen, DetailsOfHayAreAsExpected) {
     State.EnglishUnits = false;
     AField meadow = InLayers(SmallHay());

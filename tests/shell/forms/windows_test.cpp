@@ -101,7 +101,8 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     EXPECT_THROW(At(FormName::frmVeraqua).Click("cmdOpenToday"), std::logic_error);
     AField().Id("FULL").StoreAt(1);
     AField().Id("DRY").StoreAt(2);
-    State.Stat[2].Depletion = 90;
+    State.Stat[2].NextIrrDay = User.Today;
+    State.Stat[2].NextIrrAmount = 40;
     User.WeatherSource = [](const DayRange&) { return WeatherChoice::Taken; };
     State.TodayJulian = State.Stat[1].LastDay = State.Stat[2].LastDay = State.WeatherLastJulian = User.Today;
     Show(FormName::frmVeraqua);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+#include "core/calendar.h"
+
+namespace veraqua {
+
+/// How many days up to and with `through` stand on default weather, back to the latest day with other weather or to
+/// `from`. RunTimeFailure if a number in the weather files isn't finite.
+int DefaultDaysBefore(std::string_view stationCode, JulianValue from, JulianValue through);
+
+}  // namespace veraqua
