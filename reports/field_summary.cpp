@@ -13,6 +13,12 @@ std::string Percent(double value) { return Masked(value, "0") + "%"; }
 
 }  // namespace
 
+std::string DefaultWeatherNote(int days) {
+    if (days <= 0) return "";
+    return days == 1 ? "The last day stands on default weather."
+                     : fmt::format("The last {} days stand on default weather.", days);
+}
+
 FieldSummary SummaryOf(const StatRecord& row, const HeaderCommon& header, JulianValue lastWeather, JulianValue today) {
     const bool behind = row.LastDay < today - 1;
     return {ReportDate(lastWeather),

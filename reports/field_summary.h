@@ -15,6 +15,9 @@ struct FieldSummary {
     std::string Efficiency;
 };
 
+/// That the latest `days` of a field stand on default weather; empty where none does.
+std::string DefaultWeatherNote(int days);
+
 ///   row          the field's row of the directory
 ///   lastWeather  last day with weather of its station, 0 if it isn't known
 FieldSummary SummaryOf(const StatRecord& row, const HeaderCommon& header, JulianValue lastWeather, JulianValue today);

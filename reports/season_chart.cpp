@@ -64,4 +64,8 @@ ChartContent SeasonChart(const FieldFile& file, const StatRecord& row, JulianVal
     return chart;
 }
 
+void MarkDefaultWeather(ChartContent& chart, JulianValue lastDay, int days) {
+    if (days > 0) chart.Marks.push_back({fmt::format("Default weather ({})", days), lastDay - days + 1});
+}
+
 }  // namespace veraqua

@@ -11,4 +11,7 @@ namespace veraqua {
 /// the numbers of the file can't be computed with.
 ChartContent SeasonChart(const FieldFile& file, const StatRecord& row, JulianValue today, bool english);
 
+/// Marks from where on `days` of default weather end on `lastDay`, the last day with weather; none for 0.
+void MarkDefaultWeather(ChartContent& chart, JulianValue lastDay, int days);
+
 }  // namespace veraqua

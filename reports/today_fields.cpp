@@ -29,8 +29,7 @@ std::optional<FromFile> ReadFile(int row) {
         const HeaderCommon& header = file.Header();
         const FieldDay day = PresentDay(file, State.Stat[row], State.TodayJulian);
         return FromFile{header.PlantDay, day.Day, ToInteger16(day.Depletion, "the depletion"),
-                        DefaultDaysBefore(header.StationCode.Text(), header.PlantDay + 1,
-                                          std::min(State.Stat[row].LastDay, State.TodayJulian))};
+                        DefaultDaysBefore(header, std::min(State.Stat[row].LastDay, State.TodayJulian))};
     } catch (const RunTimeFailure&) {  // told where the field is opened
         return std::nullopt;
     }

@@ -15,4 +15,8 @@ int DefaultDaysBefore(std::string_view stationCode, JulianValue from, JulianValu
     return through - day;
 }
 
+int DefaultDaysBefore(const HeaderCommon& header, JulianValue through) {
+    return DefaultDaysBefore(header.StationCode.Text(), header.PlantDay + 1, through);
+}
+
 }  // namespace veraqua

@@ -170,6 +170,8 @@ class ListView : public WidgetView<ListBox, QListWidget> {
         if (!SameRows(Record(), Shown().count(), [this](int row) { return Shown().item(row)->text(); })) {
             Shown().clear();
             for (const ListItem& item : Record().Items) Shown().addItem(ToQt(item.Text));
+            if (Shown().property("newestLast").toBool())  // when the list has its size
+                QMetaObject::invokeMethod(&Shown(), &QListWidget::scrollToBottom, Qt::QueuedConnection);
         }
         if (Shown().currentRow() != Record().Index) Shown().setCurrentRow(Record().Index);
     }

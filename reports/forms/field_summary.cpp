@@ -7,17 +7,24 @@
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "weather/default_days.h"
 
 namespace veraqua {
 
 namespace {
 
-void Load(frmFieldData& form) { form.lblPrinted.Visible = false; }
+void Load(frmFieldData& form) { form.lblPrinted.Visible = form.lblDefault.Visible = false; }
+
+void ShowDefaultWeather(Label& label, const HeaderCommon& header, JulianValue lastDay) {
+    label.Caption = DefaultWeatherNote(DefaultDaysBefore(header, lastDay));
+    label.Visible = !label.Caption.empty();
+}
 
 void Fill(frmFieldData& form) {
     const StatRecord& row = State.Stat[State.CurrentField];
     const FieldSummary summary = SummaryOf(row, State.Header(), State.WeatherLastJulian, State.TodayJulian);
     form.txtWeather.Text = summary.Weather;
+    ShowDefaultWeather(form.lblDefault, State.Header(), row.LastDay);
     form.Label4.Caption = summary.DepletionOf;
     form.txtDeplete.Text = summary.Depletion;
     form.txtMAD.Text = summary.Mad;
@@ -48,6 +55,7 @@ FormTable TableOf(frmFieldData& form) {
     table.Add("lblPrinted", form.lblPrinted);
     table.Add("Label3", form.Label3);
     table.Add("txtWeather", form.txtWeather);
+    table.Add("lblDefault", form.lblDefault);
     table.Add("Label4", form.Label4);
     table.Add("txtDeplete", form.txtDeplete);
     table.Add("Label5", form.Label5);

@@ -13,6 +13,7 @@ struct frmFieldData : Form {
     Label lblPrinted;  ///< names the field on the printed image
     Label Label3{"Last Weather Data:"};
     ShownText txtWeather;
+    Label lblDefault;  ///< how much of that weather wasn't measured
     Label Label4{"Water Depletion as of mm-dd-yy:"};
     ShownText txtDeplete;
     Label Label5{"Mng. Allowed Deficiency (MAD):"};

@@ -6,6 +6,7 @@
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "weather/default_days.h"
 
 namespace veraqua {
 
@@ -17,7 +18,10 @@ void FillForm(frmSeasonChart& form) {
     if (State.CurrentField == 0) return Unload(FormName::frmSeasonChart);
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return Unload(FormName::frmSeasonChart);
-    form.Chart1.Show(SeasonChart(*file, State.Stat[State.CurrentField], State.TodayJulian, State.EnglishUnits));
+    const StatRecord& row = State.Stat[State.CurrentField];
+    ChartContent chart = SeasonChart(*file, row, State.TodayJulian, State.EnglishUnits);
+    MarkDefaultWeather(chart, row.LastDay, DefaultDaysBefore(file->Header(), row.LastDay));
+    form.Chart1.Show(std::move(chart));
     ShowFieldIn(form.StatusBar1);
     form.Caption = FieldTitle();
     form.Shown = FieldShownNow();

@@ -158,6 +158,7 @@ TEST_F(StoriesTest, WaterIsTypedAndWhatIsRefusedIsSaidAtTheBox) {
     OpenField(1);
     Choose(FormName::frmField, "mnuAdd");
     auto& list = The<QListWidget>(FormName::frmAddWater, "ListIrr");
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(list.count() - 1))));  // the newest
     const int before = list.count();
     auto panels = Window(FormName::frmAddWater).findChild<QStatusBar*>()->findChildren<QLabel*>();
     std::ranges::sort(panels, {}, [](const QLabel* panel) { return panel->x(); });
