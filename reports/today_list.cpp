@@ -126,6 +126,7 @@ TableContent::Cell WeatherCell(const FieldToday& field) {
 constexpr std::string_view ComputedHeading = "Computed through";
 constexpr std::string_view DaysLeftHeading = "Days left";
 
+/// As they are before the user chooses: the day of the depletion tells how far a field is computed.
 std::vector<TableContent::Column> Columns() {
     return {{"Field"},
             {"Crop"},
@@ -137,7 +138,7 @@ std::vector<TableContent::Column> Columns() {
             {State.EnglishUnits ? "Amount (in.)" : "Amount (mm)", true},
             {std::string(DaysLeftHeading), true},
             {"Next cutting"},
-            {std::string(ComputedHeading)},
+            {std::string(ComputedHeading), false, true},
             {"Weather"}};
 }
 

@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
+#include <QScrollBar>
 #include <functional>
 
 #include "desktop/days.h"
@@ -156,6 +157,9 @@ class ListView : public WidgetView<ListBox, QListWidget> {
         QObject::connect(&shown, &QListWidget::currentRowChanged, &shown, [this](int row) {
             if (!IsBringing()) Record().Index = row;
         });
+        if (shown.property("newestLast").toBool())
+            QObject::connect(shown.verticalScrollBar(), &QScrollBar::rangeChanged, &shown,
+                             &QListWidget::scrollToBottom);
         QObject::connect(&shown, &QListWidget::itemClicked, &shown, [this] { PickCurrent(); });
         // By the keyboard; the mouse has clicked already.
         QObject::connect(&shown, &QListWidget::itemActivated, &shown, [this] { PickCurrent(); });
@@ -170,8 +174,6 @@ class ListView : public WidgetView<ListBox, QListWidget> {
         if (!SameRows(Record(), Shown().count(), [this](int row) { return Shown().item(row)->text(); })) {
             Shown().clear();
             for (const ListItem& item : Record().Items) Shown().addItem(ToQt(item.Text));
-            if (Shown().property("newestLast").toBool())  // when the list has its size
-                QMetaObject::invokeMethod(&Shown(), &QListWidget::scrollToBottom, Qt::QueuedConnection);
         }
         if (Shown().currentRow() != Record().Index) Shown().setCurrentRow(Record().Index);
     }

@@ -20,7 +20,7 @@ constexpr std::string_view Instructions =
     "- CLICK on [Configuration] if you need to verify or change the location of weather data.\n\n"
     "- CLICK on EXIT if you are done using the program.\n\n"
     "- CLICK on [User's Manual] at the bottom of this screen for detailed instructions!\n\n"
-    "  The list [Today] shows what each field needs, the most urgent first: open a field by a double click.\n\n"
+    "  The list [Today] shows what each field needs, the most urgent first.\n\n"
     "  [Configuration] sets the date, the units, and how many fields the bars show at once.\n\n"
     "  F1 opens the manual at the place of the window that you are in.";
 

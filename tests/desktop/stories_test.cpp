@@ -158,7 +158,9 @@ TEST_F(StoriesTest, WaterIsTypedAndWhatIsRefusedIsSaidAtTheBox) {
     OpenField(1);
     Choose(FormName::frmField, "mnuAdd");
     auto& list = The<QListWidget>(FormName::frmAddWater, "ListIrr");
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(list.count() - 1))));  // the newest
+    auto& rains = The<QListWidget>(FormName::frmAddWater, "ListRain");
+    EXPECT_TRUE(rains.viewport()->rect().contains(rains.visualItemRect(rains.item(rains.count() - 1)))) << "the newest";
+    EXPECT_FALSE(rains.viewport()->rect().contains(rains.visualItemRect(rains.item(0))));
     const int before = list.count();
     auto panels = Window(FormName::frmAddWater).findChild<QStatusBar*>()->findChildren<QLabel*>();
     std::ranges::sort(panels, {}, [](const QLabel* panel) { return panel->x(); });
