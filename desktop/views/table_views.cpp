@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -171,6 +172,7 @@ class TableView : public WidgetView<Table, QTableView> {
 
   private:
     void BringOwn() override {
+        if (!Record().Columns.empty()) RecallColumns();
         QStringList headings;
         for (const Table::Column& column : Record().Columns) headings.append(ToQt(column.Heading));
         if (Record().Rows != filled_ || headings != shownHeadings_) Refill(headings);
@@ -202,6 +204,19 @@ class TableView : public WidgetView<Table, QTableView> {
         }
         menu.exec(where);
         HideColumns();
+        QVariantList hidden;
+        for (const Table::Column& column : columns) hidden.append(column.IsHidden);
+        QSettings().setValue(SettingsKey(), hidden);
+    }
+
+    QString SettingsKey() const { return "columns/" + Shown().objectName(); }
+
+    /// As the user had them at the last start.
+    void RecallColumns() {
+        const QVariantList hidden = QSettings().value(SettingsKey()).toList();
+        if (std::exchange(recalled_, true) || hidden.size() != std::ssize(Record().Columns)) return;
+        for (qsizetype i = 0; i < hidden.size(); ++i)
+            Record().Columns[static_cast<std::size_t>(i)].IsHidden = hidden[i].toBool();
     }
 
     void HideColumns() {
@@ -228,6 +243,7 @@ class TableView : public WidgetView<Table, QTableView> {
     }
 
     TableParts parts_;
+    bool recalled_ = false;
     std::vector<Table::Row> filled_;
     QStringList shownHeadings_;
 };

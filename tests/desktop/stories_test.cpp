@@ -95,6 +95,15 @@ TEST_F(StoriesTest, TheListIsSortedByItsNumbersAndTheRowThatIsSeenIsCopiedAndOpe
     EXPECT_THAT(TextOf(FormName::frmField, "lbl_ID"), HasSubstr(FromQt(second)));
     Press(FormName::frmField, "cmd_return", Qt::Key_Escape);
     ASSERT_TRUE(IsUp(FormName::frmVeraqua));
+    for (const bool hides : {true, false}) {
+        QTimer::singleShot(0, [] {
+            auto* columns = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            columns->actions().at(1)->trigger();
+            columns->close();
+        });
+        today.customContextMenuRequested({});
+        EXPECT_EQ(today.isColumnHidden(1), hides);
+    }
     const QString shownLast = text(last, 0);
     today.selectRow(last);
     QTest::keySequence(&today, QKeySequence::Copy);

@@ -8,6 +8,7 @@
 #include "tests/reports/expected_text.h"
 #include "tests/support/data_directory.h"
 #include "tests/support/report_fields.h"
+#include "weather/default_weather.h"
 
 namespace veraqua {
 namespace {
@@ -120,6 +121,10 @@ TEST_F(TodayOfFields, HaveTheDepletionOfThePresentDayFromTheirFiles) {
     };
     EXPECT_THAT(inOrderOfRows(), testing::ElementsAre("No data yet; 45; 05-04-03", "No data yet; Full; 05-03-03",
                                                       "Irrigate in 5 days; 40; 05-03-03"));
+    State.StationCode = LoadFieldFile(1).Header().StationCode.Text();
+    WriteDefaultWeather({MayDay(2), MayDay(3)});
+    EXPECT_THAT(Lines({"Weather"}),
+                testing::UnorderedElementsAre("2 days by default", "1 day behind, 1 day by default", "-"));
     State.TodayJulian = MayDay(2);
     EXPECT_THAT(inOrderOfRows(), testing::ElementsAre("Looking back; 28; 05-02-03", "No data yet; 28; 05-02-03",
                                                       "Looking back; 40; 05-03-03"));

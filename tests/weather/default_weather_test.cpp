@@ -10,6 +10,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/data_directory.h"
 #include "tests/support/failure.h"
+#include "weather/default_days.h"
 #include "weather/weather_file.h"
 
 namespace veraqua {
@@ -72,6 +73,11 @@ TEST_F(DefaultWeatherTest, FillsTheRangeOverTheTurnOfTheYearAndKeepsWhatFollowsI
         EXPECT_EQ(before.Day(day), DefaultDay(State.WeatherCoeff, day));  // the gap too
     for (int day = 1; day <= 3; ++day) EXPECT_EQ(after.Day(day), DefaultDay(State.WeatherCoeff, day));
     EXPECT_EQ(after.Day(4).Source.Text(), "kesta");
+    const auto defaultDays = [](int from, int through) {
+        return DefaultDaysBefore("06", JulianFromDayOfYear(from, 2004), JulianFromDayOfYear(through, 2005));
+    };
+    EXPECT_EQ(defaultDays(300, 3), 67 + 3);  // 66 days are left in the leap year after its 300th
+    EXPECT_EQ(defaultDays(300, 4), 0);
 }
 
 }  // namespace

@@ -2,8 +2,10 @@
 #include "reports/forms/field_history.h"
 #include "reports/forms/field_summary.h"
 #include "reports/forms/report_roads.h"
+#include "reports/forms/season_chart.h"
 #include "tests/reports/expected_text.h"
 #include "tests/reports/forms/report_forms.h"
+#include "weather/default_weather.h"
 
 namespace veraqua {
 namespace {
@@ -31,6 +33,10 @@ TEST_F(FieldScreen, SummaryTellsTheStateAndTheNextIrrigation) {
     EXPECT_THAT(Shown(FormName::frmFieldDetails), HasSubstr("\ntxtIrrDate: Exceeded MAD!  WATER! (red)\nlbl_amount: "));
     row.NextIrrDay = MayDay(5);
     EXPECT_EQ(Shown(FormName::frmFieldData), ExpectedText("summary_crop"));
+    WriteDefaultWeather({MayDay(2), MayDay(3)});
+    EXPECT_THAT(Shown(FormName::frmFieldData), HasSubstr("\nlblDefault: The last 2 days stand on default weather.\n"));
+    Shown(FormName::frmSeasonChart);
+    EXPECT_THAT(The<frmSeasonChart>().Chart1.Marks, testing::Contains(ChartMark{"Default weather (2)", MayDay(2)}));
 }
 
 TEST_F(FieldScreen, DetailsOfACropAreAsExpected) {

@@ -107,6 +107,9 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     State.TodayJulian = State.Stat[1].LastDay = State.Stat[2].LastDay = State.WeatherLastJulian = User.Today;
     Show(FormName::frmVeraqua);
     EXPECT_EQ(form.lblTodayNote.Caption, "2 fields, 1 needs water. Open a field with a double click or Enter.");
+    User.WhenShown(FormName::frmReportOptions, [] { At(FormName::frmReportOptions).Click("cmd_OK"); });
+    At(FormName::frmVeraqua).Type("txtFilter", "full").Click("cmdSaveToday").Type("txtFilter", "");
+    EXPECT_THAT(*files::Read("Today.csv"), testing::EndsWith("\nFULL,MAIZE GRAIN,No data yet,0,05-01-03,50,,,,,\n"));
     At(FormName::frmVeraqua).Pick("Today", 1);
     EXPECT_EQ(State.CurrentField, 1);
     EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
