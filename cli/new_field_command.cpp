@@ -153,10 +153,11 @@ class Entry {
 int RunFieldNew(Session& session, const NewFieldOptions& options) {
     if (!session.OpenData(files::Access::Write)) return ExitRefused;
     if (options.CopySoil && !IsField(session, *options.CopySoil)) return ExitRefused;
-    // Where the run fails, the default weather that was taken for it goes as well.
+    // Where the run fails or a value is beyond the file, the default weather that was taken for it goes as well.
     files::ChangeSet changes;
     const OrRefused<StartedField> started = Entry(session.Outside, options).Make();
-    changes.Commit();
+    const bool asBefore = !started.IsDone() && started.Why().IsOverflow;
+    if (!asBefore) changes.Commit();
     if (!started.IsDone()) return session.Refuse(started.Why());
     PrintRow(session, started->Row);
     const RunOutcome outcome = started->FirstRun;

@@ -58,7 +58,7 @@ class Session {
     /// Tells why a command was not done, and gives its exit status.
     int Refuse(const Refused& refused) {
         Tell(Outside, refused);
-        return ExitRefused;
+        return refused.IsOverflow ? ExitFailure : ExitRefused;
     }
 
     /// Whether something that was to be printed could not be.

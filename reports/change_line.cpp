@@ -27,6 +27,7 @@ std::string ChangeLine(const StatRecord& before, const StatRecord& after, bool e
 }
 
 std::string ChangeLine(const FieldChange& change, bool english) {
+    if (change.IsNoWater) return "Stored as 0 mm: less than half a millimetre counts as no water.";
     if (change.HasRun()) return ChangeLine(change.Before, change.After, english);
     return "The change is recorded, but the field was not run: its predictions are those from before.";
 }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "core/base/numbers.h"
 #include "core/base/units.h"
 #include "core/directory.h"
@@ -129,9 +131,20 @@ OrRefused<FieldChange> SetDepletion(Ask& ask, const std::string& depletion) {
     return *std::move(done);
 }
 
-OrRefused<FieldChange> ResetField(Ask& ask) {
+std::string LossesOfReset(const FieldFile& file) {
+    const auto count = [](const std::vector<EventRecord>& events, std::string_view what) {
+        return fmt::format("{} {}{}", events.size(), what, events.size() == 1 ? "" : "s");
+    };
+    std::string losses = "\nWhat goes: " + count(file.Lists.Rain, "rain");
+    losses += (file.IsHay ? ", " : " and ") + count(file.Lists.Irrigation, "irrigation");
+    if (file.IsHay) losses += " and " + count(file.Lists.Cuttings, "cutting");
+    return losses + ".";
+}
+
+OrRefused<FieldChange> ResetField(Ask& ask, const std::string& losses) {
     if (!ask.YesNo("This will reset depletion and irrigation--it starts your crop over from day 1.  Do you "
-                   "wish to continue?",
+                   "wish to continue?" +
+                       losses,
                    "Crop Reinitialization", Icon::Question, true))
         return Refused{};
     std::optional<FieldChange> done = ChangeAndRun(ask, [](FieldInHand& field) {

@@ -34,6 +34,10 @@ OrRefused<FieldFile> SetEfficiency(Ask& ask, const std::string& efficiency);
 OrRefused<FieldChange> SetDepletion(Ask& ask, const std::string& depletion);
 
 /// Starts the crop over from its planting day, after a question: water and cuttings go.
-OrRefused<FieldChange> ResetField(Ask& ask);
+///   losses  stands behind the question
+OrRefused<FieldChange> ResetField(Ask& ask, const std::string& losses = {});
+
+/// What goes from the field in a reset, as a line behind the question: "3 rains, 1 irrigation and 2 cuttings go."
+std::string LossesOfReset(const FieldFile& file);
 
 }  // namespace veraqua

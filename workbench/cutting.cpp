@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -29,6 +30,11 @@ std::optional<Refused> RefusedNumber(std::optional<double> number) {
     if (!number) return refuse("Please enter a number value for your cut number");
     if (std::floor(*number) != *number) return refuse("Please enter a whole number for your cut number");
     if (*number < 0) return refuse("Please enter a positive whole number for your cut number");
+    if (!FitsInteger16(*number))
+        return Refused{.Text = fmt::format("Please enter a cut number of at most {}", MostStored),
+                       .Title = "Input Error",
+                       .Where = Given::CutNumber,
+                       .IsOverflow = true};
     return std::nullopt;
 }
 

@@ -14,7 +14,7 @@ inline Refused OnlyHayIsCut() { return {"This option only applies to Alfalfa fie
 /// Records the cutting `number` on `day`, in place of what stood there; 0 removes it without a question.
 ///   day     0: the user has typed no date, and been told why
 ///   number  nothing: no number was typed
-/// RunTimeFailure beyond 16 bits, and where the run fails.
+/// RunTimeFailure where the run fails.
 OrRefused<FieldChange> RecordCutting(Ask& ask, JulianValue day, std::optional<double> number);
 
 /// Removes the cutting of `day`, after a question.

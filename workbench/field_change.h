@@ -19,6 +19,7 @@ struct FieldChange {
     RunOutcome Run = RunOutcome::Done;
     FieldFile File;           ///< as it is stored now
     bool IsRecorded = false;  ///< else there was nothing to change
+    bool IsNoWater = false;   ///< the amount recorded is stored as 0 mm
 
     /// Whether the predictions follow from the change. Else they are those from before, and the user has been told.
     bool HasRun() const { return Run == RunOutcome::Done || Run == RunOutcome::StoppedByUser; }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <utility>
 #include <variant>
@@ -38,7 +40,11 @@ struct Refused {
     std::string Title{ProgramTitle};
     Given Where = Given::Nothing;
     std::size_t Index = 0;
+    bool IsOverflow = false;  ///< more than a field's file can hold; for a script a failure
 };
+
+/// The most that a file holds of an amount, in its own unit.
+constexpr std::int16_t MostStored = std::numeric_limits<std::int16_t>::max();
 
 /// Tells the user, if there is something to be told.
 inline void Tell(Ask& ask, const Refused& refused) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,11 +32,18 @@ double EnteredValue(std::string_view typed);
 /// Water in the unit of entry as the whole mm per m that a field file holds. RunTimeFailure beyond 16 bits.
 std::int16_t StoredWater(double entered);
 
+/// Refused where that is beyond 16 bits.
+std::optional<Refused> RefusedOverflow(double entered, std::string_view title, Given where, std::size_t index);
+
 /// mm per m in the unit of entry.
 double EnteredWater(double millimetresPerMetre);
 
 /// The texts that the entry of a copied layer or zone starts with; mm per m.
 TypedWater StartingWater(std::int16_t capacity, std::int16_t content);
+
+/// What stands for the water of layer or zone `index` has to be a number, if anything.
+std::optional<Refused> CheckCapacity(std::string_view typed, std::size_t index);
+std::optional<Refused> CheckContent(std::string_view typed, std::size_t index);
 
 /// A capacity above this is asked about, in the unit of entry.
 double CapacityLimit();

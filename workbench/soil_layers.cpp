@@ -12,11 +12,6 @@ namespace veraqua {
 
 namespace {
 
-std::optional<Refused> RefusedUnlessNumeric(std::string_view typed, Refused refused) {
-    if (typed.empty() || Numeric(typed)) return std::nullopt;
-    return refused;
-}
-
 /// False where the user wants to go on with the entry.
 bool DepthIsFilled(Ask& ask, const LayerEntry& entry) {
     if (entry.CumDepth == 0) ask.Tell("Please enter soils data or click Cancel", "Veraqua Warning");
@@ -125,15 +120,11 @@ std::optional<Refused> LayerEntry::TakeThickness(Ask& ask, std::size_t layer, st
 }
 
 std::optional<Refused> LayerEntry::CheckCapacity(std::size_t layer, std::string_view typed) const {
-    if (SoilCopied) return std::nullopt;
-    return RefusedUnlessNumeric(typed, {"Please enter a value between 0 and " + Plain(CapacityLimit()),
-                                        "Water Capacity Must Be NUMERIC", Given::Capacity, layer});
+    return SoilCopied ? std::nullopt : veraqua::CheckCapacity(typed, layer);
 }
 
 std::optional<Refused> LayerEntry::CheckContent(std::size_t layer, std::string_view typed) const {
-    if (SoilCopied) return std::nullopt;
-    return RefusedUnlessNumeric(typed,
-                                {"Please enter a numeric value!", "Water Content Input Error", Given::Content, layer});
+    return SoilCopied ? std::nullopt : veraqua::CheckContent(typed, layer);
 }
 
 OrRefused<std::size_t> LayerEntry::NextLayer(const std::vector<std::string>& typed) const {
@@ -172,6 +163,8 @@ OrRefused<EnteredSoil> LayerEntry::Soil(Ask& ask, const std::array<TypedWater, M
         if (content < 0 || content > layerMax + 0.01)
             return Refused{"Please enter a value between 0 and " + Masked(layerMax, "0.00"),
                            "Water Content Input Error - Out of Bounds", Given::Content, layer};
+        if (auto refused = RefusedOverflow(content, "Water Content Input Error - Out of Bounds", Given::Content, layer))
+            return *refused;
         soil.Profile.Content[layer] = StoredWater(content);
     }
     return soil;

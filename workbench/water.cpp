@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "core/base/numbers.h"
+#include "core/base/units.h"
 #include "core/state.h"
 
 namespace veraqua {
@@ -44,6 +45,14 @@ std::optional<Refused> RefusedAmount(Water kind, std::optional<double> mm) {
     if (*mm <= 0)
         return Refused{"Please enter a value greater than 0.  Use Delete button if deleting values", "Bad Data!",
                        Given::Amount};
+    if (!FitsInteger16(*mm))
+        return Refused{
+            .Text = fmt::format("Please enter a value of at most {}",
+                                State.EnglishUnits ? Masked(MostStored / MillimetresPerInch, "0.00") + " inches"
+                                                   : fmt::format("{} mm", MostStored)),
+            .Title = "Bad Data!",
+            .Where = Given::Amount,
+            .IsOverflow = true};
     return std::nullopt;
 }
 
@@ -54,7 +63,11 @@ KeptList ListOf(Water kind) { return kind == Water::Rain ? &FieldLists::Rain : &
 OrRefused<FieldChange> RecordWater(Ask& ask, Water kind, JulianValue day, std::optional<double> mm) {
     if (auto refused = RefusedOn(day)) return *refused;
     if (auto refused = RefusedAmount(kind, mm)) return *refused;
-    return RecordAndRun(ask, ListOf(kind), day, ToSingle(*mm, "Amount of water"));
+    OrRefused<FieldChange> outcome = RecordAndRun(ask, ListOf(kind), day, ToSingle(*mm, "Amount of water"));
+    if (!outcome.IsDone()) return outcome;
+    FieldChange change = *outcome;
+    change.IsNoWater = ToInteger16(*mm, "Amount of water") == 0;
+    return change;
 }
 
 OrRefused<FieldChange> RemoveWater(Ask& ask, Water kind, JulianValue day) {

@@ -13,7 +13,7 @@ enum class Water { Rain, Irrigation };
 /// Records `mm` of water on `day`, in place of what stood there.
 ///   day  0: the user has typed no date, and been told why
 ///   mm   gross; nothing: no number was typed. Stored as whole millimetres
-/// RunTimeFailure beyond 16 bits, and where the run fails.
+/// RunTimeFailure where the run fails.
 OrRefused<FieldChange> RecordWater(Ask& ask, Water kind, JulianValue day, std::optional<double> mm);
 
 /// Removes the water of `day`, after a question.

@@ -99,10 +99,15 @@ void cmdDeplOK_Click(frmField& form) {
     const auto outcome = SetDepletion(TheScreen(), form.TxtNewDepl.Text);
     if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome, State.EnglishUnits));
     ShowRefusal(outcome.Why(), form.TxtNewDepl);
+    const bool isOver = State.Stat[State.CurrentField].NextIrrAmount == AmountHarvest;
+    if (isOver && outcome.Why().Where == Given::Nothing && !outcome.Why().Text.empty())
+        TheScreen().Tell("The season of this crop is over: no day is left to go on from. Harvest the field.");
 }
 
 void cmd_Reset_Click(frmField& form) {
-    const auto outcome = ResetField(TheScreen());
+    const auto file = ReadField(TheScreen());
+    if (!file) return;
+    const auto outcome = ResetField(TheScreen(), LossesOfReset(*file));
     if (outcome.IsDone()) return ShowChange(form, ChangeLine(*outcome, State.EnglishUnits));
     ShowRefusal(outcome.Why(), form.TxtNewDepl);
 }

@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "catch_up/weather_commands.h"
+#include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/state.h"
 #include "screen/field_caption.h"
@@ -48,6 +50,8 @@ void Load(frmLoadField& form) {
     form.txtMAD.Text = start.Mad;
     form.txtIrrEff.Text = start.Efficiency;
     form.TxtPlantDate.Text = start.PlantDate;
+    State.StationCode = NoStation;  // that of the field before
+    State.StationName.clear();
     int number = 0;
     for (const std::string& station : State.DefaultStations) form.ComboKESTA.Add(station, ++number);
     Focus(form.txtFieldID);
@@ -120,6 +124,12 @@ void ComboKESTA_Change(frmLoadField& form) { Pick(form, StationPick::Typed); }
 
 // ---------------------------------------------------------------------------------------------------------- the field
 
+/// The default as it is shown, rounded, stands for the default itself.
+std::string NewRootDepth(const frmLoadField& form) {
+    const std::string& typed = form.txt_new_root.Text;
+    return Numeric(typed) == Numeric(DepthText(form.CropRootMax)) ? "" : typed;
+}
+
 FieldEntry Entered(const frmLoadField& form) {
     return {.FieldId = form.txtFieldID.Text,
             .PlantDate = form.TxtPlantDate.Text,
@@ -127,7 +137,7 @@ FieldEntry Entered(const frmLoadField& form) {
             .Efficiency = form.txtIrrEff.Text,
             .Mad = form.txtMAD.Text,
             .MadCritical = form.txtMADcritical.Text,
-            .RootDepth = State.IsHay ? form.txtRootD.Text : form.txt_new_root.Text,
+            .RootDepth = State.IsHay ? form.txtRootD.Text : NewRootDepth(form),
             .DryDays = form.txtDry.Text,
             .CropRootMax = form.CropRootMax};
 }

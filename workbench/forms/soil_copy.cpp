@@ -39,12 +39,21 @@ void cmdDeleted_Click(frmCopySoilData& form) {
     for (const Backup& backup : form.DeletedFiles) form.ComboDField.Add(ListText(backup), ++number);
 }
 
+/// Which day's water contents are copied: those that the file has now. Zones that gained water have changed them.
+std::string ContentsAre(const FieldFile& file) {
+    const auto& history = file.Lists.History;
+    return history.empty() ? " Contents: as of the planting day"
+                           : fmt::format(" Contents: as of {}, no longer those of the planting day",
+                                         JulianToShortText(history.back().Day));
+}
+
 /// The soil format of the new field follows a mere preview.
 void Preview(frmCopySoilData& form, FieldFile file) {
     form.txtData.Text = SoilPreview(file, State.EnglishUnits);
     const HeaderCommon& header = file.Header();
     form.StatusBar1.Panels[0] = fmt::format("Field={}  ID={}", header.CropName.Text(), header.FieldId.Text());
     form.StatusBar1.Panels[1] = " Planted: " + JulianToShortText(header.PlantDay);
+    form.StatusBar1.Panels[2] = ContentsAre(file);
     State.VariableSoil = file.VariableSoil();
     form.Previewed = std::move(file);
     form.Selected = false;

@@ -11,6 +11,18 @@ void RefuseEntry(TextBox& box, const Refused& refused) {
     SelectText(box);
 }
 
+bool KeepsEntries(bool anyEntered) {
+    return anyEntered && TheScreen().YesNo("Do you wish to keep the soil data that you have entered, and go on?",
+                                           ProgramTitle, Icon::Question, false);
+}
+
+bool MayLeave(const TextBox& box, const std::optional<Refused>& refused) {
+    if (!refused) return true;
+    Tell(TheScreen(), *refused);
+    Focus(box);
+    return false;
+}
+
 void ShowNewField(StatusBar& bar) {
     ShowFieldIn(bar);
     The<frmField>().Caption = FieldTitle();

@@ -93,13 +93,6 @@ bool txtRoot_Leave(frmCapVar& form, int index) {
     return false;
 }
 
-bool MayLeave(const TextBox& box, const std::optional<Refused>& refused) {
-    if (!refused) return true;
-    Tell(TheScreen(), *refused);
-    Focus(box);
-    return false;
-}
-
 bool txtcap_Leave(frmCapVar& form, int index) {
     const auto layer = static_cast<std::size_t>(index);
     return MayLeave(form.txtcap[layer], form.Entry.CheckCapacity(layer, form.txtcap[layer].Text));
@@ -150,7 +143,8 @@ void cmdReset_Click(frmCapVar& form) {
 
 void cmdPrint_Click(frmCapVar&) { PrintForm(FormName::frmCapVar, CannotPrintForm); }
 
-void cmdCancel_Click(frmCapVar&) {
+void cmdCancel_Click(frmCapVar& form) {
+    if (KeepsEntries(AnyEntered(form.txtRoot) || AnyEntered(form.txtcap) || AnyEntered(form.txtcon))) return;
     Unload(FormName::frmLoadField);
     Unload(FormName::frmCapVar);
 }

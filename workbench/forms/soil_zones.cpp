@@ -44,16 +44,54 @@ void ShowZones(frmCap& form, int top, double interval) {
 void cmdDepth_Click(frmCap& form) {
     const std::optional<double> interval = Numeric(form.txtDepth.Text);
     if (const std::optional<Refused> refused = form.Entry.TakeInterval(interval))
-        RefuseEntry(form.txtDepth, *refused);
+        return RefuseEntry(form.txtDepth, *refused);
+    ShowZones(form, form.Entry.ZoneTop, *interval);
+    form.AcceptedDepth = form.txtDepth.Text;
+}
+
+/// Whether another interval stands in the box than the zones have, and the user wants that one.
+bool TakesOtherInterval(frmCap& form) {
+    if (form.Entry.ZoneTop < 0 || Numeric(form.txtDepth.Text) == Numeric(form.AcceptedDepth)) return false;
+    const std::string question =
+        fmt::format("The zones below have a depth interval of {}, and {} was not accepted yet. Do you wish to use {}?",
+                    form.AcceptedDepth, form.txtDepth.Text, form.txtDepth.Text);
+    if (TheScreen().YesNo(question, "Depth Interval", Icon::Question, false)) return true;
+    form.txtDepth.Text = form.AcceptedDepth;
+    return false;
+}
+
+// ------------------------------------------------------------------------------------------------ checks while typing
+
+bool IsCopied() { return The<frmLoadField>().Copied.SoilCopied; }
+
+bool txtcap_Leave(frmCap& form, int zone) {
+    const TextBox& box = form.txtcap[Zone(zone)];
+    return IsCopied() || MayLeave(box, CheckCapacity(box.Text, Zone(zone)));
+}
+
+bool txtcon_Leave(frmCap& form, int zone) {
+    const TextBox& box = form.txtcon[Zone(zone)];
+    return IsCopied() || MayLeave(box, CheckContent(box.Text, Zone(zone)));
+}
+
+void txtcap_Enter(frmCap& form, int zone) {
+    if (txtcap_Leave(form, zone)) Focus(form.txtcon[Zone(zone)]);
+}
+
+/// On to the next zone, which is there already.
+void txtcon_Enter(frmCap& form, int zone) {
+    if (!txtcon_Leave(form, zone)) return;
+    if (zone < form.Entry.ZoneTop)
+        Focus(form.txtcap[Zone(zone + 1)]);
     else
-        ShowZones(form, form.Entry.ZoneTop, *interval);
+        Focus(form.cmdOK);
 }
 
 // ---------------------------------------------------------------------------------------------------- the form's start
 
 void FillFrom(frmCap& form, const CopiedSoil& copied) {
     const StartingZones start = form.Entry.StartFrom(TheScreen(), copied);
-    form.txtDepth.Text = start.IntervalText;
+    form.txtDepth.Text = form.AcceptedDepth = start.IntervalText;
     ShowZones(form, start.Top, start.Interval);
     for (std::size_t zone = 0; zone < start.Water.size(); ++zone) {
         form.txtcap[zone].Text = start.Water[zone].Capacity;
@@ -95,6 +133,8 @@ void Refuse(frmCap& form, const Refused& refused) {
 }
 
 void cmdOK_Click(frmCap& form) {
+    if (!LeaveChecksPass(FormName::frmCap)) return;
+    if (TakesOtherInterval(form)) return cmdDepth_Click(form);  // its zones want their water first
     TypedZones typed;
     for (std::size_t zone = 0; zone < typed.size(); ++zone)
         typed[zone] = {form.txtcap[zone].Text, form.txtcon[zone].Text};
@@ -107,7 +147,9 @@ void cmdOK_Click(frmCap& form) {
 
 void cmdPrint_Click(frmCap&) { PrintForm(FormName::frmCap, "Unable to print the 'Fixed Soil Depth' form right now."); }
 
-void cmdCancel_Click(frmCap&) { Unload(FormName::frmCap); }
+void cmdCancel_Click(frmCap& form) {
+    if (!KeepsEntries(AnyEntered(form.txtcap) || AnyEntered(form.txtcon))) Unload(FormName::frmCap);
+}
 
 }  // namespace
 
@@ -120,9 +162,9 @@ FormTable TableOf(frmCap& form) {
     table.Add("cmdDepth", form.cmdDepth).Click(cmdDepth_Click);
     table.Add("lblEnter2", form.lblEnter2);
     table.Add("lblCapacity", form.lblCapacity);
-    table.Add("txtcap", form.txtcap);
+    table.Add("txtcap", form.txtcap).Leave(txtcap_Leave).EnterKey(txtcap_Enter);
     table.Add("lblContent", form.lblContent);
-    table.Add("txtcon", form.txtcon);
+    table.Add("txtcon", form.txtcon).Leave(txtcon_Leave).EnterKey(txtcon_Enter);
     table.Add("cmdReset", form.cmdReset).Click(Load);
     table.Add("cmdOK", form.cmdOK).Click(cmdOK_Click);
     table.Add("cmdPrint", form.cmdPrint).Click(cmdPrint_Click);

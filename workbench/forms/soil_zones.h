@@ -26,6 +26,7 @@ struct frmCap : Form {
     StatusBar StatusBar1;
 
     ZoneEntry Entry;
+    std::string AcceptedDepth;  ///< the text of the interval that the zones have
 };
 
 FormTable TableOf(frmCap& form);

@@ -46,10 +46,18 @@ std::string AmountText(double mm) {
     return State.EnglishUnits ? Masked(mm / MillimetresPerInch, "0.0") + " inches" : Masked(mm, "0.0") + " mm";
 }
 
+/// What was stored in whole millimetres, to a hundredth of an inch, where the row's tenths don't say it.
+std::string StoredText(double mm) {
+    if (!State.EnglishUnits) return "";
+    const std::string hundredths = Masked(mm / MillimetresPerInch, "0.00");
+    return hundredths == Masked(mm / MillimetresPerInch, "0.0") + "0" ? "" : fmt::format("  ({})", hundredths);
+}
+
 void ShowSide(const Side& side) {
     side.List.Clear();
     for (const EventRecord& event : side.Events)
-        side.List.Add(JulianToShortText(event.Day) + "   ...   " + AmountText(event.Amount), event.Day);
+        side.List.Add(JulianToShortText(event.Day) + "   ...   " + AmountText(event.Amount) + StoredText(event.Amount),
+                      event.Day);
     side.TotalMm = TotalAmount(side.Events);
     side.Total.Text = AmountText(side.TotalMm);
 }

@@ -82,6 +82,7 @@ TEST_F(AdjustmentsTest, AResetStartsFromTheSoilOfPlantingWithoutAnyEvents) {
     }));
     State.Updates[1] = Today - 5;
     Menu.Click("mnuDepletion").Click("cmd_Reset");
+    EXPECT_THAT(User.LastAsked(), testing::EndsWith("continue?\nWhat goes: 1 rain and 0 irrigations."));
     EXPECT_EQ(Stored().Lists.Rain.size(), 1U);  // the answer was No
     User.Answers = {true};
     Menu.Click("cmd_Reset");

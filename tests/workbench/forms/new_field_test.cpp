@@ -46,8 +46,10 @@ TEST_F(NewFieldTest, OkChecksInItsOrder) {
     said("Date input error: Please enter a date (greater than 1900) formated like: MM/DD/YYYY", "TxtPlantDate");
     ok.Type("TxtPlantDate", "12/31/1903");
     said("Date input error: The planting date is too far in the past.", "TxtPlantDate");
-    ok.Type("TxtPlantDate", "5/1/2003").Type("txt_new_root", "39.4");
+    ok.Type("TxtPlantDate", "5/1/2003").Type("txt_new_root", "39.5");
     said("Input Error: New value must be less than the default maximum rooting depth.", "txt_new_root");
+    ok.Type("txt_new_root", "39.4");  // as the default of 1 m is shown
+    EXPECT_EQ(State.Field.RootMax, 1);
 }
 
 TEST_F(NewFieldTest, ANewRootDepthCanBeRaisedAgainUpToTheCrops) {

@@ -44,11 +44,27 @@ TEST_F(SoilTest, TheZonesOfAnIntervalAreShownAndWhatIsWrongIsSelected) {
         soil.Type("txtDepth", "20").Click("cmdDepth");
         EXPECT_TRUE(Zones.txtcon[1].Visible && !Zones.txtcon[2].Visible);
         EXPECT_EQ(Zones.lblCapacity[1].Caption, "Capacity from 20 to 40 in.");
+        soil.Type("txtcap(0)", "x").Press("txtcap(0)", Event::EnterKey);
+        EXPECT_EQ(User.LastSaid(), "Water Capacity Must Be NUMERIC: Please enter a value between 0 and 3");
         soil.Type("txtcap(0)", "1.5").Click("cmdOK");
         refused("Water Capacity Input Error: Please enter a Capacity Value equal to or greater than 0.1 inches/foot.",
                 "txtcap(1)");
         soil.Type("txtcap(1)", "1.5").Type("txtcon(0)", "1.5").Type("txtcon(1)", "1.6").Click("cmdOK");
         refused("Water Content Input Error: Please enter a value between 0 and 1.51", "txtcon(1)");
+        soil.Press("txtcon(0)", Event::EnterKey);
+        EXPECT_EQ(User.FocusedControls.back(), "frmCap.txtcap(1)");
+
+        for (const bool takesIt : {false, true}) {  // an interval that was typed only
+            soil.Type("txtDepth", "13");
+            AfterOk(soil, {takesIt});
+            EXPECT_EQ(Zones.txtDepth.Text, takesIt ? "13" : "20");
+            EXPECT_EQ(Zones.txtcon[3].Visible, takesIt);
+        }
+        AfterOk(soil.Type("txtcap(0)", "400"), {true});  // 32767 mm/m are 393.2 in/ft
+        refused("Water Capacity Input Error: Please enter a value of at most 393.20", "txtcap(0)");
+        User.Answers = {true};
+        soil.Click("cmdCancel");  // and keeps what was entered
+        EXPECT_TRUE(FormOf(FormName::frmCap).Loaded && User.Answers.empty());
     });
 }
 

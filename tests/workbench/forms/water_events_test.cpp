@@ -40,7 +40,7 @@ TEST_F(WaterTest, EachEntryReachesTheFileWithTheRunThatItCauses) {
     const StatRecord before = State.Stat[1];
     Rain("7/3/2003", "1.00");
     EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
-    EXPECT_EQ(Water.ListRain.Items.at(0).Text, "07-03-03   ...   1.0 inches");
+    EXPECT_EQ(Water.ListRain.Items.at(0).Text, "07-03-03   ...   1.0 inches  (0.98)");
     Entry.Type("txtIrrAdd", "7 10 2003").Type("txtIrrigation", "4").Press("txtIrrigation", Event::EnterKey);
     EXPECT_THAT(Stored().Irrigation, ElementsAre(EventRecord{July(10), 102}));
     EXPECT_NE(State.Stat[1].Depletion, before.Depletion);
@@ -101,10 +101,13 @@ TEST_F(WaterTest, ARefusalPutsTheFocusWhereItIsSetRight) {
               "Veraqua Warning: Irrigation dates prior to updated 'Depletion Date' are not allowed.  Reset 'Depletion' "
               "if you want to add water.");
     State.Updates[1] = State.DriedOutDay = 0;
-    Rain("7/9/2003", "1291");  // inches: more than 32767 mm
-    EXPECT_THAT(User.Failures, ElementsAre(HasSubstr("Amount of the day")));
+    Rain("7/9/2003", "1291");  // 32767 mm are 1290.04 inches
+    EXPECT_EQ(User.LastSaid(), "Bad Data!: Please enter a value of at most 1290.04 inches");
+    EXPECT_EQ(User.FocusedControls.back(), "frmAddWater.txtRainfall");
     EXPECT_THAT(Stored().Rain, IsEmpty());
     EXPECT_THAT(Water.RainEvents, IsEmpty());
+    Rain("7/9/2003", "0.01");
+    EXPECT_EQ(Water.lblChange.Caption, "Stored as 0 mm: less than half a millimetre counts as no water.");
 }
 
 TEST_F(WaterTest, DeletesTheSelectedRowOrTheTypedDayAfterAQuestion) {
