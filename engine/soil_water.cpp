@@ -119,7 +119,7 @@ float DrynessCoefficient(float available, float capacity) {
 
 float DepletionPercent(float available, float capacity) {
     return ToInteger16(100.0 * (1 - static_cast<double>(available) / capacity),
-                       "the depletion (by the capacity of the root zone)");
+                       "the depletion, percent (by the capacity of the root zone and the rain and irrigation entered)");
 }
 
 float WetSoilEvaporation(float kc, float gddSum, int gddLimit, int daysSinceWet) {

@@ -142,7 +142,9 @@ class Photographer {
             soil.Type("txtcap(0)", english ? "1.8" : "150").Type("txtcon(0)", english ? "1.5" : "120");
         }
         Take(form);
+        screen_->Answer = false;  // what was entered is not kept
         soil.Close();
+        screen_->Answer = true;
     }
 
     void Reports() {

@@ -12,12 +12,14 @@ namespace veraqua {
 /// answer a message.
 class PhotoScreen : public QtScreen {
   public:
+    bool Answer = true;  ///< to every question
+
     /// What is done each time `form` is shown modally; then it is left as by its frame.
     void WhenShown(FormName form, std::function<void()> doing) { doings_[form] = std::move(doing); }
 
     void RunModal(FormTable& form) override;
     void Tell(std::string_view, std::string_view, Icon) override { BringAll(); }
-    bool YesNo(std::string_view, std::string_view, Icon, bool) override { return true; }
+    bool YesNo(std::string_view, std::string_view, Icon, bool) override { return Answer; }
     void StartGet(const std::string&, std::function<void(const HttpProgress&)> progress) override;
     void CancelGet() override {}
 
