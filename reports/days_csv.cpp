@@ -4,6 +4,7 @@
 
 #include "core/base/numbers.h"
 #include "reports/field_days.h"
+#include "reports/report_text.h"
 
 namespace veraqua {
 
@@ -13,11 +14,6 @@ namespace {
 constexpr double Parts = 10000;
 
 std::string Cell(double value) { return Plain(static_cast<float>(RoundedTo(value, Parts))); }
-
-std::string IsoDate(JulianValue day) {
-    const Date date = DateFromJulian(day);
-    return fmt::format("{:04}-{:02}-{:02}", date.Year, date.Month, date.Day);
-}
 
 std::string Heading(bool isHay, bool english) {
     const char* water = english ? "in" : "mm";

@@ -1,11 +1,18 @@
 #include "reports/report_text.h"
 
+#include <fmt/format.h>
+
 #include "core/base/numbers.h"
 
 namespace veraqua {
 
 std::string ReportDate(JulianValue day, std::string_view none) {
     return day == 0 ? std::string(none) : JulianToShortText(day);
+}
+
+std::string IsoDate(JulianValue day) {
+    const Date date = DateFromJulian(day);
+    return fmt::format("{:04}-{:02}-{:02}", date.Year, date.Month, date.Day);
 }
 
 std::string PrintedWater(double inches, int millimetres, bool english) {

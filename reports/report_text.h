@@ -11,6 +11,9 @@ namespace veraqua {
 /// "mm-dd-yy", or `none` where the day isn't known.
 std::string ReportDate(JulianValue day, std::string_view none = {});
 
+/// "2003-05-04", for other programs.
+std::string IsoDate(JulianValue day);
+
 /// Water in the printed schedule: "01.69 in." of `inches`, or "043.00 mm".
 std::string PrintedWater(double inches, int millimetres, bool english);
 

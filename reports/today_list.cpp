@@ -1,6 +1,7 @@
 #include "reports/today_list.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <limits>
 #include <optional>
@@ -124,6 +125,7 @@ TableContent::Cell WeatherCell(const FieldToday& field) {
 }
 
 constexpr std::string_view ComputedHeading = "Computed through";
+constexpr std::array<std::string_view, 4> DayHeadings{"As of", "Irrigate on", "Next cutting", ComputedHeading};
 constexpr std::string_view DaysLeftHeading = "Days left";
 
 /// As they are before the user chooses: the day of the depletion tells how far a field is computed.
@@ -132,12 +134,12 @@ std::vector<TableContent::Column> Columns() {
             {"Crop"},
             {"What to do"},
             {"Depletion %", true},
-            {"As of"},
+            {std::string(DayHeadings[0])},
             {"MAD %", true},
-            {"Irrigate on"},
+            {std::string(DayHeadings[1])},
             {State.EnglishUnits ? "Amount (in.)" : "Amount (mm)", true},
             {std::string(DaysLeftHeading), true},
-            {"Next cutting"},
+            {std::string(DayHeadings[2])},
             {std::string(ComputedHeading), false, true},
             {"Weather"}};
 }
@@ -182,6 +184,13 @@ bool HasAll(const std::vector<TableContent::Cell>& cells, const std::vector<std:
             return CapitalsOf(cell.Text).find(word) != std::string::npos;
         });
     });
+}
+
+/// Cells of days are sorted by them.
+std::string ForSpreadsheet(const TableContent::Column& column, const TableContent::Cell& cell) {
+    const bool isDay = std::ranges::find(DayHeadings, column.Heading) != DayHeadings.end();
+    return isDay && cell.SortKey && *cell.SortKey < Behind ? IsoDate(static_cast<JulianValue>(*cell.SortKey))
+                                                           : cell.Text;
 }
 
 /// A cell of a CSV file.
@@ -251,7 +260,7 @@ std::string TodayListCsv(const TableContent& table) {
     for (const TableContent::Row& row : table.Rows) {
         line.clear();
         for (std::size_t i = 0; i < row.Cells.size(); ++i)
-            if (!table.Columns[i].IsHidden) line.push_back(Quoted(row.Cells[i].Text));
+            if (!table.Columns[i].IsHidden) line.push_back(Quoted(ForSpreadsheet(table.Columns[i], row.Cells[i])));
         text += fmt::format("{}\n", fmt::join(line, ","));
     }
     return text;

@@ -115,6 +115,7 @@ TEST_F(TodayOfFields, HaveTheDepletionOfThePresentDayFromTheirFiles) {
         Lines({});
         std::ranges::sort(List.Rows, {}, &TableContent::Row::Data);
         std::vector<std::string> texts;
+        texts.reserve(List.Rows.size());
         for (const TableContent::Row& row : List.Rows)
             texts.push_back(row.Cells[2].Text + "; " + row.Cells[3].Text + "; " + row.Cells[4].Text);
         return texts;

@@ -62,6 +62,14 @@ TEST_F(Bars, AreSortedAndPagedThrough) {
                                           "You've displayed all your fields.  You have 5 fields planted."));
 }
 
+TEST_F(Bars, FollowTheFieldsWhileTheyAreOpen) {
+    ShowFieldDisplays();
+    After("m_Field");
+    Stored(5, SmallCrop().Id("YEW"), 43);  // from 28 to 45 %
+    EXPECT_EQ(After("m_prior12"), "3 2 4 1 5");
+    EXPECT_EQ(Form.Panels[4]->lbl_depl.Caption, "Depletion:  45.0%");
+}
+
 TEST_F(Bars, OfEqualKeysMayChangePlaces) {
     std::vector<GraphRow> rows(3);
     std::int16_t number = 0;

@@ -109,7 +109,7 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     EXPECT_EQ(form.lblTodayNote.Caption, "2 fields, 1 needs water. Open a field with a double click or Enter.");
     User.WhenShown(FormName::frmReportOptions, [] { At(FormName::frmReportOptions).Click("cmd_OK"); });
     At(FormName::frmVeraqua).Type("txtFilter", "full").Click("cmdSaveToday").Type("txtFilter", "");
-    EXPECT_THAT(*files::Read("Today.csv"), testing::EndsWith("\nFULL,MAIZE GRAIN,No data yet,0,05-01-03,50,,,,,\n"));
+    EXPECT_THAT(*files::Read("Today.csv"), testing::EndsWith("\nFULL,MAIZE GRAIN,No data yet,0,2003-05-01,50,,,,,\n"));
     At(FormName::frmVeraqua).Pick("Today", 1);
     EXPECT_EQ(State.CurrentField, 1);
     EXPECT_FALSE(FormOf(FormName::frmVeraqua).Shown);
