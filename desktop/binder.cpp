@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -135,6 +136,11 @@ bool BoundWindow::Reach(const ControlEntry& control) {
     return moved;
 }
 
+bool BoundWindow::IsLeaving() const {
+    const ControlEntry* at = EntryOf(QApplication::focusWidget());
+    return at != nullptr && at->IsExit;
+}
+
 /// A check keeps the user where they were, and says why.
 void BoundWindow::KeepFocus(const ControlEntry& wanted) {
     if (const ControlView* view = ViewOf(wanted))
@@ -230,6 +236,11 @@ bool BoundWindow::EnterPressed(QWidget* at) {
         return true;
     }
     if (qobject_cast<QComboBox*>(at) != nullptr) return false;
+    // What was typed into a list is taken by the first Enter.
+    const auto* line = qobject_cast<QLineEdit*>(at);
+    if (entry != nullptr && line != nullptr)
+        if (ComboBox* const* list = std::get_if<ComboBox*>(&entry->Where))
+            if (FromQt(line->text()) != (*list)->Text) return false;
     if (auto* button = qobject_cast<QPushButton*>(at)) return button->click(), true;
     if (QPushButton* button = DefaultButtonOf(*window_)) return button->click(), true;
     return false;

@@ -50,6 +50,7 @@ class BoundWindow : public QObject, public ControlEvents {
     void FocusFirst();
 
     bool Reach(const ControlEntry& control) override;
+    bool IsLeaving() const override;
     void Happened(const ControlEntry& control, Event event) override;
     void Typed(const ControlEntry& control) override;
 

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
@@ -119,19 +120,26 @@ class ComboView : public WidgetView<ComboBox, QComboBox> {
         : WidgetView(entry, box, shown, events) {
         shown.setInsertPolicy(QComboBox::NoInsert);
         shown.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        QObject::connect(&shown, &QComboBox::activated, &shown,
-                         [this](int index) { Picked([this, index] { Record().Select(index); }); });
+        QObject::connect(&shown, &QComboBox::activated, &shown, [this](int index) { TakeRow(index); });
         shown.setEditable(box.Editable);
         if (shown.lineEdit() == nullptr) return;
         shown.lineEdit()->setValidator(Latin1Only(shown.lineEdit()));
         QObject::connect(shown.lineEdit(), &QLineEdit::editingFinished, &shown, [this] { TakeText(); });
+        QObject::connect(shown.lineEdit(), &QLineEdit::textEdited, &shown, [this] { isTyped_ = true; });
+        QObject::connect(shown.view(), &QAbstractItemView::pressed, &shown, [this] { isTyped_ = false; });
     }
 
   private:
+    /// The toolkit picks the row of a name that was typed, too, but that is a changed text.
+    void TakeRow(int index) {
+        if (isTyped_) return TakeText();
+        Picked([this, index] { Record().Select(index); });
+    }
+
     /// What was typed counts once it is whole. A text that stands in the list means its row.
     void TakeText() {
         const QString text = Shown().currentText();
-        if (IsBringing() || text == ToQt(Record().Text)) return;
+        if (IsBringing() || IsLeaving() || text == ToQt(Record().Text)) return;
         Picked(
             [&] {
                 Record().Text = FromQt(text);
@@ -147,7 +155,10 @@ class ComboView : public WidgetView<ComboBox, QComboBox> {
         }
         Shown().setCurrentIndex(Record().Index);
         if (Record().Editable) Shown().setEditText(ToQt(Record().Text));
+        isTyped_ = false;
     }
+
+    bool isTyped_ = false;  ///< what stands there now
 };
 
 class ListView : public WidgetView<ListBox, QListWidget> {

@@ -35,6 +35,8 @@ class WidgetView : public ControlView {
     /// Whether a signal comes from the program, not from the user.
     bool IsBringing() const { return bringing_; }
 
+    bool IsLeaving() const { return events_->IsLeaving(); }
+
     /// Takes what the user has picked into the record by `take`, and runs the event.
     template <class Take>
     void Picked(Take take, Event event = Event::Click) {

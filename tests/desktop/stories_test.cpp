@@ -334,6 +334,30 @@ TEST_F(StoriesTest, TheSoilOfANewFieldIsEnteredInNamedBoxes) {
     }
 }
 
+TEST_F(StoriesTest, AStationTypedByNameIsAChangedTextAndOneByHalfIsLeftInPeace) {
+    OpenField(1);
+    Choose(FormName::frmField, "mnuNew");
+    Pick(FormName::frmField, "comboCrops", 0);
+    Pick(FormName::frmField, "Combo_Soils", 0);
+    Click(FormName::frmField, "cmd_OK");
+    auto& line = *The<QComboBox>(FormName::frmLoadField, "ComboKESTA").lineEdit();
+    const auto type = [&](const std::string& name) {
+        QTest::mouseClick(&line, Qt::LeftButton);
+        line.selectAll();
+        QTest::keyClicks(&line, QString::fromStdString(name));
+    };
+    Said.clear();
+    type(State.DefaultStations[10]);  // off-line for what is typed, but not for a click
+    QTest::keyClick(&line, Qt::Key_Return);
+    Settle();
+    EXPECT_THAT(Said, testing::ElementsAre("Bad selection: Please select a site that isn't off-line!"));
+    type("half");
+    Said.clear();
+    Click(FormName::frmLoadField, "cmd_Cancel");
+    EXPECT_THAT(Said, testing::IsEmpty());
+    EXPECT_FALSE(IsUp(FormName::frmLoadField));
+}
+
 TEST_F(StoriesTest, AFieldIsChosenAmongTheBarsWhichAreSortedAndTurnedInPages) {
     OpenField(1);
     State.DisplayDays = 4;
