@@ -6,6 +6,7 @@
 #include "cli/commands.h"
 #include "core/base/numbers.h"
 #include "core/crop_table.h"
+#include "core/directory.h"
 #include "core/field_file.h"
 #include "core/state.h"
 #include "workbench/new_field.h"
@@ -67,8 +68,7 @@ class Entry {
         if (!State.IsHay && (options_.MadCritical || options_.DryDays))
             return Refused{"A critical MAD and a drying time are for hay only."};
         const std::optional<std::int32_t> station = WholeNumber(options_.Station);
-        if (!station || *station < 1 || *station > static_cast<int>(State.DefaultStations.size()))
-            return Refused{fmt::format("\"{}\" is no station of weathdef.dat.", options_.Station)};
+        if (!station || !IsStation(*station)) return Refused{NoStationText(options_.Station)};
         FieldEntry entry = StartingEntry();
         entry.FieldId = options_.Id;
         entry.PlantDate = options_.PlantDate;

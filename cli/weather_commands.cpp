@@ -24,11 +24,16 @@ namespace {
 /// Years have two digits in the names of weather files, so a longer range would meet itself.
 constexpr int MostYears = 100;
 
-/// Makes `code` the station in work. False after a message if it is no station code.
+/// Makes `code` the station in work. False after a message if it is no station code, or that of no station. "00" stands
+/// for none, of which each command says itself what it makes.
 bool ChooseStation(Session& session, const std::string& code) {
     const std::optional<std::int32_t> number = WholeNumber(code);
     if (!number || *number < 0 || *number > 99 || code.size() > 2) {
         session.Outside.Tell(fmt::format("\"{}\" is no station code: two digits, such as 06.", code));
+        return false;
+    }
+    if (*number != 0 && !IsStation(*number)) {
+        session.Outside.Tell(NoStationText(code));
         return false;
     }
     State.StationCode = fmt::format("{:02}", *number);

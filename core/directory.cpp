@@ -61,9 +61,15 @@ void LoadStationNames() {
 
 }  // namespace
 
+bool IsStation(int number) { return number >= 1 && number <= static_cast<int>(State.DefaultStations.size()); }
+
+std::string NoStationText(std::string_view typed) {
+    return fmt::format("\"{}\" is no station of weathdef.dat.", typed);
+}
+
 std::string StationNameOf(std::string_view code) {
-    const auto number = static_cast<std::size_t>(WholeNumber(code).value_or(0));
-    return number >= 1 && number <= State.DefaultStations.size() ? State.DefaultStations[number - 1] : "UNKNOWN";
+    const int number = WholeNumber(code).value_or(0);
+    return IsStation(number) ? State.DefaultStations[static_cast<std::size_t>(number - 1)] : "UNKNOWN";
 }
 
 std::string FieldFileName(int row) { return fmt::format("field{}.dat", row); }

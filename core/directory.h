@@ -17,6 +17,12 @@ std::string FieldFileName(int row);
 /// The same with the field's ID, for messages: "field7.dat (field NORTH 30)".
 std::string FieldFileTitle(int row);
 
+/// Whether weathdef.dat names a weather station with the code `number`.
+bool IsStation(int number);
+
+/// Why a station isn't taken that the user has `typed`.
+std::string NoStationText(std::string_view typed);
+
 /// Name of the weather station with the two-digit code `code`; "UNKNOWN" where weathdef.dat names none.
 std::string StationNameOf(std::string_view code);
 

@@ -37,7 +37,7 @@ TEST_F(CliTest, WithADamagedFileStayAsTheyAre) {
              {"field1.dat", field.substr(0, field.size() - 1), "field show 1"},
              {"field1.dat", "short", "field update"},
              {"stat.dat", Patched(Directory.Raw("stat.dat"), 23, Hex("FF FF FF FF")), "field update"},
-             {"weathdef.dat", "1, 0\nDAVIS\nTELMORAN\n38.5, 18\n23.3, -9.9, x\n", "weather check 06 2003"},
+             {"weathdef.dat", "1, 0\nDAVIS\nTELMORAN\n38.5, 18\n23.3, -9.9, x\n", "weather check 01 2003"},
              {"weather06.03", Patched(weather, lastDay + 6, Hex("00 00 C0 7F")), import}}) {
         SCOPED_TRACE(command);
         SCOPED_TRACE(file);
