@@ -152,7 +152,7 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& rang
     return report;
 }
 
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download) {
+CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download) {
     if (!StationIsChosen(ask)) return Ended(CommandEnding::StationMissing);
     const std::optional<DayRange> range = ChooseRange(ask, command);
     if (!range) return Ended(CommandEnding::Declined);
@@ -161,7 +161,11 @@ CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& dow
         return Failed(*range);
     }
     State.DownloadFailed = false;
-    CommandReport report = ImportRange(ask, command, *range);
+    return ImportRange(ask, command, *range);
+}
+
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download) {
+    CommandReport report = FetchWeather(ask, command, download);
     if (report.Ending != CommandEnding::Done) return report;
     report.CatchUp =
         UpdateFieldsForStation(ask, command == WeatherCommand::Append ? "Updating fields" : "Updating fields!");

@@ -72,7 +72,10 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& rang
 /// Fetches the text of the station in work and a year and stores it. False after the user has been told why not.
 using Download = std::function<bool(int year)>;
 
-/// The whole menu command: range, download, import, and the catch-up of the station's fields.
+/// Range, download and import of a menu command.
+CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download);
+
+/// The whole menu command: the same, and the catch-up of the station's fields.
 CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download);
 
 /// Writes default weather for `range` and raises the last day with weather.

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "catch_up/weather_commands.h"
+#include "core/field_in_work.h"
 #include "core/state.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
@@ -52,10 +53,12 @@ void ShowReport(frmWeather& form, const CommandReport& report) {
     form.lblUpdate.Visible = report.CatchUp.has_value();
 }
 
-/// What the chooser has downloaded, or is here otherwise, for its own range: no question about it, and no catch-up.
-CommandReport ImportForChooser(const DayRange& wanted) {
+/// Where the chooser has called, no field catches up. Appending takes the text that the chooser has downloaded, or that
+/// is here otherwise, for the chooser's range and without a question about it; overwriting is what it always is.
+CommandReport BringForChooser(WeatherCommand command, const DayRange& wanted) {
     if (WeatherCoefficientsOf(RegionOfChosenStation(State.StationCode)))
-        return ImportRange(TheScreen(), WeatherCommand::Append, wanted);
+        return command == WeatherCommand::Append ? ImportRange(TheScreen(), command, wanted)
+                                                 : FetchWeather(TheScreen(), command, DownloadText);
     // The user has picked a station without default weather: its gaps must not be filled with a foreign one's.
     TellDownloadFailed(TheScreen());
     CommandReport report;
@@ -65,8 +68,8 @@ CommandReport ImportForChooser(const DayRange& wanted) {
 
 void BringFromNetwork(frmWeather& form, WeatherCommand command) {
     form.lblUpdate.Visible = false;
-    ShowReport(form,
-               ChooserHasCalled() ? ImportForChooser(form.Wanted) : BringWeather(TheScreen(), command, DownloadText));
+    ShowReport(form, ChooserHasCalled() ? BringForChooser(command, form.Wanted)
+                                        : BringWeather(TheScreen(), command, DownloadText));
 }
 
 void Load(frmWeather& form) {
@@ -86,10 +89,16 @@ void Unloaded(frmWeather& form) {
 
 void Leave(frmWeather&) { Unload(FormName::frmWeather); }
 
+/// Another station is in work: nothing of the one before stays on the screen, nor the list that it was picked from.
+void ShowStationPicked(frmWeather& form) {
+    ClearPanels(form);
+    form.ComboKESTA.Select(-1);
+    ShowStationOn(form, form.StatusBar1);
+}
+
 bool ComboKESTA_Click(frmWeather& form) {
     if (!ChooseStation(form.ComboKESTA)) return false;
-    ClearPanels(form);
-    form.StatusBar1.Panels[2] = StationPanel();
+    ShowStationPicked(form);
     return true;
 }
 
@@ -97,8 +106,9 @@ bool ComboKESTA_Click(frmWeather& form) {
 bool ComboKESTA_Leave(frmWeather& form) { return form.ComboKESTA.Selected() == nullptr || ComboKESTA_Click(form); }
 
 void mnu_view_Click(frmWeather& form) {
+    const InWork before;
     ShowModal(FormName::frmViewWeather);
-    form.StatusBar1.Panels[2] = StationPanel();
+    if (!before.HasStation()) ShowStationPicked(form);
 }
 
 template <class Controls>

@@ -73,10 +73,17 @@ std::optional<int> YearTyped(const frmViewWeather& form) {
     return year && *year >= 0 && *year <= 9999 ? std::optional<int>(*year) : std::nullopt;
 }
 
+/// A file's name has two digits of its year. Of the years with these it is the latest, but runs look no more than four
+/// years ahead. The two digits alone are a year of the file that bears them.
+bool IsYearOfItsFile(int year) {
+    const int latest = YearOf(TheScreen().Now()) + 4;
+    return year < 100 || (year <= latest && year > latest - 100);
+}
+
 /// The year that the user wants listed. Nothing, after they have been told, where there is no file of it.
 std::optional<Listing> ListYear(const frmViewWeather& form, const Spacing& spacing) {
     const std::optional<int> year = YearTyped(form);
-    if (!year || !files::Exists(WeatherFileName(State.StationCode, *year))) {
+    if (!year || !IsYearOfItsFile(*year) || !files::Exists(WeatherFileName(State.StationCode, *year))) {
         TheScreen().Tell(fmt::format("No weather data found for {} at Station: {}",
                                      year ? fmt::format("{}", *year) : form.txtYear.Text, State.StationCode),
                          "Bad Year");
@@ -100,7 +107,7 @@ bool ComboKESTA_Click(frmViewWeather& form) {
     if (!ChooseStation(form.ComboKESTA)) return false;
     form.lblKESTA.Visible = false;
     form.ComboKESTA.Visible = false;
-    form.StatusBar1.Panels[2] = StationPanel();
+    ShowStationOn(form, form.StatusBar1);
     return true;
 }
 

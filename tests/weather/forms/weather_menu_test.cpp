@@ -91,6 +91,18 @@ TEST_F(WeatherMenu, TakesTheStationOfThePositionPicked) {
     EXPECT_EQ(State.WeatherCoeff, WeatherCoefficientsOf("SORA VALLEY"));  // runs and checks take another for 01
 }
 
+TEST_F(WeatherMenu, GoesOnWithTheStationPickedInTheViewer) {
+    State.StationCode = "00";
+    Show(FormName::frmWeather);
+    User.WhenShown(FormName::frmViewWeather, [] { At(FormName::frmViewWeather).Pick("ComboKESTA", 7).Close(); });
+    At(FormName::frmWeather).Pick("ComboKESTA", -1).Click("mnu_view");
+    EXPECT_EQ(State.StationCode, "08");
+    EXPECT_EQ(Form.StatusBar1.Panels[2], " Kesta: " + State.StationName + " ");
+    EXPECT_FALSE(Form.ComboKESTA.Visible || Form.lblKESTA.Visible);
+    At(FormName::frmWeather).Click("mnu_default");
+    EXPECT_TRUE(Directory.Has("weather08.03"));
+}
+
 struct Chooser : WeatherFormsTest {
     Chooser() {
         User.WhenShown(FormName::frmKESTA, [] { At(FormName::frmKESTA).Click("cmd_return"); });
@@ -124,6 +136,22 @@ TEST_F(Chooser, ASecondYearThatFailsLeavesTheFirstAndTheWholeRange) {
         EXPECT_TRUE(IsLoaded(FormName::frmKESTA) && The<frmKESTA>().Option[2].Chosen);
         EXPECT_EQ(SourceOf(364, 2002) + SourceOf(365, 2002) + SourceOf(1), "kestakesta");
         Unload(FormName::frmKESTA);
+    }
+}
+
+TEST_F(Chooser, OverwritesWithAFreshTextAndItsOwnWords) {
+    Directory.Put("kesta.03", NetworkDays(1, 195));  // of an earlier day
+    User.WhenShown(FormName::frmWeather, [] { At(FormName::frmWeather).Click("mnu_OverwriteWeather").Close(); });
+    for (const bool foreign : {true, false}) {
+        Serve("03", foreign ? ANetworkLine(1).Station("8") : ANetworkLine(1) + ANetworkLine(2));
+        User.Told.clear();
+        User.Fetched.clear();
+        User.Answers = {true};  // default weather for the days that the text lacks
+        State.CallerForm = "frmKESTA";
+        ShowDefaultWeather({Yesterday, Yesterday});
+        EXPECT_EQ(User.Fetched.size(), 1U);
+        EXPECT_EQ(User.LastSaid(), foreign ? "Download Error: Wrong KESTA station downloaded.  Try again!" : "");
+        EXPECT_EQ(SourceOf(1) + SourceOf(3), foreign ? "defaultdefault" : "kestadefault");
     }
 }
 
@@ -171,7 +199,7 @@ TEST_F(Viewer, PrintsTheYear) {
 }
 
 TEST_F(Viewer, RefusesAYearWithoutAFileAndListsNoDayTooMany) {
-    for (const char* year : {"2002", "abc", "20.5", "-3"}) {
+    for (const char* year : {"2002", "abc", "20.5", "-3", "1903", "2103"}) {
         At(FormName::frmViewWeather).Type("txtYear", year).Click("cmdOK");
         EXPECT_EQ(User.LastSaid(), std::string("Bad Year: No weather data found for ") + year + " at Station: 06");
     }
