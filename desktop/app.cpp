@@ -11,6 +11,7 @@
 #include "reports/forms/forms.h"
 #include "screen/forms.h"
 #include "shell/forms/forms.h"
+#include "shell/forms/main_menu.h"
 #include "weather/forms/forms.h"
 #include "workbench/forms/forms.h"
 
@@ -52,8 +53,9 @@ void PrepareApplication(QApplication& app) {
     AddShellForms();
 }
 
-int RunDesktop(QApplication&) {
+int RunDesktop(QApplication&, const StartOptions& options) {
     QtScreen screen;
+    The<frmVeraqua>().DataDirectory = options.DataDirectory;
     try {
         Show(FormName::frmVeraqua);
     } catch (const RunTimeFailure& failure) {

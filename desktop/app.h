@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+#include "desktop/start_options.h"
+
 namespace veraqua {
 
 /// Begins to read what fonts there are, beside the toolkit's own start, which has no need of them yet.
@@ -12,6 +14,6 @@ void ReadFontsAhead();
 void PrepareApplication(QApplication& app);
 
 /// Shows the main menu and runs the program to its end. Gives the exit status.
-int RunDesktop(QApplication& app);
+int RunDesktop(QApplication& app, const StartOptions& options);
 
 }  // namespace veraqua

@@ -17,8 +17,9 @@ namespace veraqua {
 namespace {
 
 /// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on after that.
-void StartInDataDirectory() {
-    if (!OpenDataDirectory(DefaultDataDirectories(), files::Access::Write)) ShowModal(FormName::frmPath);
+void StartInDataDirectory(const frmVeraqua& form) {
+    const auto candidates = form.DataDirectory ? std::vector{*form.DataDirectory} : DefaultDataDirectories();
+    if (!OpenDataDirectory(candidates, files::Access::Write)) ShowModal(FormName::frmPath);
     StartUp(TheScreen());
     TakeNetworkOfUser();
 }
@@ -26,7 +27,7 @@ void StartInDataDirectory() {
 void Load(frmVeraqua& form) {
     State.StartDate = TheScreen().Now();
     try {
-        StartInDataDirectory();
+        StartInDataDirectory(form);
     } catch (const RunTimeFailure& failure) {
         // Another program holds the directory, or a file that nothing can do without is damaged.
         TheScreen().Tell(failure.what(), ProgramTitle, Icon::Stop);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "screen/form.h"
 
 namespace veraqua {
@@ -33,6 +36,8 @@ struct frmVeraqua : Form {
     Button cmdSaveToday{"Save list", "As CSV, for a spreadsheet"};
 
     StatusBar StatusBar1;
+
+    std::optional<std::string> DataDirectory;  ///< to open in the place of the usual one
 };
 
 FormTable TableOf(frmVeraqua& form);
