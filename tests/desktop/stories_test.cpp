@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTcpServer>
@@ -422,6 +423,11 @@ TEST_F(StoriesTest, AWindowKeepsItsSizeToTheNextRunAndIsNeverOffTheScreen) {
     window.resize(room.width() / 2, room.height() * 2);
     PlaceWindow(window, "a new one", &corner);
     EXPECT_TRUE(room.contains(window.frameGeometry()));
+
+    const QMargins frame(4, 30, 4, 4);  // before it is shown, a window has no frame of its own
+    QSettings().setValue("frame", QVariantList{frame.left(), frame.top(), frame.right(), frame.bottom()});
+    PlaceWindow(window, "another", &corner);
+    EXPECT_TRUE(room.contains(window.geometry().marginsAdded(frame)));
 }
 
 }  // namespace
