@@ -2,6 +2,8 @@
 
 #include <cassert>
 
+#include <fmt/format.h>
+
 #include "core/base/text.h"
 #include "screen/forms.h"
 
@@ -49,7 +51,8 @@ void PrintForm(FormName form, std::string_view failureText) {
 void PrintDocument(const PrintedDocument& document, std::string_view sentText) {
     const PrintOutcome outcome = TheScreen().Print(document);
     if (outcome.Ending == PrintEnding::Failed) TheScreen().Tell(outcome.Reason);
-    if (outcome.Ending == PrintEnding::Printed) TheScreen().Tell(sentText);
+    if (outcome.Ending == PrintEnding::Printed)
+        TheScreen().Tell(outcome.Pdf.empty() ? std::string(sentText) : fmt::format("Saved as {}", outcome.Pdf));
 }
 
 }  // namespace veraqua

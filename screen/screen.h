@@ -21,7 +21,8 @@ enum class PrintEnding {
 
 struct PrintOutcome {
     PrintEnding Ending = PrintEnding::Printed;
-    std::string Reason;
+    std::string Reason = {};
+    std::string Pdf = {};  ///< the file that was made in the place of printing; empty: none
 };
 
 /// How far a request to the weather network has come; each is later than those before it.

@@ -204,8 +204,9 @@ bool PaintPicture(const QImage& picture, QSizeF size, const QString& title, QPag
     QRectF room = AreasOf(device).Text;
     const QFont font(FontOf(PictureTitleFace), &device);
     painter.setFont(font);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, title);
-    room.setTop(2 * QFontMetricsF(font).height());
+    QRectF heading;  // as many lines as a long title needs
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, title, &heading);
+    room.setTop(heading.bottom() + QFontMetricsF(font).height());
     const QSizeF natural = size * (device.logicalDpiX() / PointsPerInch);
     const QSizeF fitting = natural.scaled(room.size(), Qt::KeepAspectRatio);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

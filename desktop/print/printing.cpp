@@ -6,12 +6,14 @@
 #include <QFileDialog>
 #include <QKeySequence>
 #include <QLocale>
+#include <QMenuBar>
 #include <QPageLayout>
 #include <QPalette>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <QToolBar>
@@ -98,7 +100,7 @@ class Preview {
         if (!done || printer_.printerState() == QPrinter::Aborted) return {PrintEnding::Left, {}};
         if (!reason_.isEmpty()) return {PrintEnding::Failed, FromQt(reason_)};
         if (printer_.printerState() == QPrinter::Error) return {PrintEnding::Failed, "The printer reports an error."};
-        return {};
+        return {PrintEnding::Printed, {}, FromQt(pdf_)};
     }
 
   private:
@@ -126,7 +128,8 @@ class Preview {
         files.setAcceptMode(QFileDialog::AcceptSave);
         files.setDefaultSuffix("pdf");
         if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty()) return;
-        reason_ = WritePdf(files.selectedFiles().constFirst(), title_, printer_.pageLayout(), paint_);
+        pdf_ = files.selectedFiles().constFirst();
+        reason_ = WritePdf(pdf_, title_, printer_.pageLayout(), paint_);
         dialog_.accept();
     }
 
@@ -134,12 +137,25 @@ class Preview {
     const PagePainting& paint_;
     QPrinter printer_;
     QPrintPreviewDialog dialog_;
+    QString pdf_;     ///< the file that the user had it saved in
     QString reason_;  ///< why the last painting has failed; empty: it hasn't
 };
 
 PagePainting PaintingOf(const PrintedDocument& document) {
     return
         [&document](QPagedPaintDevice& device, QPainter& painter) { return PaintDocument(document, device, painter); };
+}
+
+/// Takes what only serves a click out of the image of `window`: buttons, menu and tool bar mean nothing on paper.
+void LeaveOutButtons(const QWidget& window, QImage& image) {
+    QPainter painter(&image);
+    for (const QWidget* part : window.findChildren<const QWidget*>()) {
+        const bool clickedOnly = qobject_cast<const QPushButton*>(part) != nullptr ||
+                                 qobject_cast<const QMenuBar*>(part) != nullptr ||
+                                 qobject_cast<const QToolBar*>(part) != nullptr;
+        if (!clickedOnly || !part->isVisibleTo(&window)) continue;
+        painter.fillRect(QRect(part->mapTo(&window, QPoint()), part->size()), QApplication::palette().window());
+    }
 }
 
 /// The image of a window in the light theme: paper is white, and ink is dear.
@@ -151,6 +167,7 @@ QImage ImageOf(QWidget& window) {
     const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     if (isDark) ApplyTheme(app, Theme::Light);
     window.render(&image);
+    LeaveOutButtons(window, image);
     if (isDark) ApplyTheme(app, Theme::Dark);
     return image;
 }

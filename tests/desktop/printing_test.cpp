@@ -95,7 +95,9 @@ TEST(Printing, SavesAPdfFromThePreviewOrSaysThatItFailed) {
     EXPECT_EQ(PrintWithPreview(nullptr, "Days", [](auto&, auto&) { return false; }).Ending, PrintEnding::Failed);
     EXPECT_EQ(PagesIn(path), -1);
     Then(save);
-    EXPECT_EQ(PrintDocumentOn(nullptr, Report(100)).Ending, PrintEnding::Printed);
+    const PrintOutcome saved = PrintDocumentOn(nullptr, Report(100));
+    EXPECT_EQ(saved.Ending, PrintEnding::Printed);
+    EXPECT_EQ(saved.Pdf, FromQt(path));
     EXPECT_EQ(PagesIn(path), 2);
     Then([](QDialog& preview) { preview.reject(); });
     EXPECT_EQ(PrintDocumentOn(nullptr, Report(1)).Ending, PrintEnding::Left);

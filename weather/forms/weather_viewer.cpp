@@ -30,10 +30,11 @@ namespace {
 struct Spacing {
     int Ahead;
     std::array<int, 9> Behind;
+    bool Straight;  ///< a number wider than its mask, such as one below 0, takes up the blanks ahead of it
 };
 
-constexpr Spacing OnScreen{0, {6, 7, 8, 7, 9, 8, 12, 11, 8}};
-constexpr Spacing OnPaper{3, {3, 4, 4, 3, 4, 4, 7, 6, 6}};
+constexpr Spacing OnScreen{0, {6, 7, 8, 7, 9, 8, 12, 11, 8}, false};
+constexpr Spacing OnPaper{3, {3, 4, 4, 3, 4, 4, 7, 6, 6}, true};
 
 std::string Blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
 
@@ -51,8 +52,11 @@ std::string_view MaskOf(DayRow row) {
 std::string LineOf(const WeatherDay& day, int dayOfYear, int year, const Spacing& spacing) {
     std::string line = Blanks(spacing.Ahead) + JulianToShortText(JulianFromDayOfYear(dayOfYear, year)) +
                        Blanks(spacing.Behind[0]) + Masked(static_cast<double>(dayOfYear), "000");
-    for (const DayRow row : AllDayRows)
-        line += Blanks(spacing.Behind[IndexOf(row) + 1]) + TextOf(day, row, State.EnglishUnits, MaskOf(row));
+    for (const DayRow row : AllDayRows) {
+        const std::string text = TextOf(day, row, State.EnglishUnits, MaskOf(row));
+        const int wider = spacing.Straight ? static_cast<int>(text.size() - MaskOf(row).size()) : 0;
+        line += fmt::format("{}{}", Blanks(std::max(1, spacing.Behind[IndexOf(row) + 1] - wider)), text);
+    }
     return line;
 }
 
