@@ -141,8 +141,7 @@ struct Calendar : Control {
 
 /// A picker of a directory, and what it shows of it.
 struct DirectoryBox : Control {
-    std::string Path;                ///< with a final "/"
-    std::vector<std::string> Files;  ///< names in it
+    std::string Path;  ///< with a final "/"
 };
 
 /// Something drawn: lines, texts and pictures in a plane of `Width` by `Height` units, y downwards.

@@ -100,6 +100,10 @@ Bytes ReadOutside(const std::string& path, std::size_t limit);
 
 bool DirectoryExists(const std::string& path);
 
+/// Names of the files in any directory, sorted; what lies in it otherwise is left out. A Refusal, with the system's
+/// reason, if it can't be read.
+std::vector<std::string> FilesIn(const std::string& path);
+
 /// Whether a report saved to `path` would replace a file.
 bool FileExists(const std::string& path);
 

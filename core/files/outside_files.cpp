@@ -2,8 +2,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -87,6 +89,18 @@ bool FileExists(const std::string& path) {
 bool DirectoryExists(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+std::vector<std::string> FilesIn(const std::string& path) {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (std::filesystem::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error)) {
+        std::error_code unknown;  // of a link that leads nowhere
+        if (entry->is_regular_file(unknown)) names.push_back(entry->path().filename().string());
+    }
+    if (error) throw Refusal(fmt::format("{} can't be read: {}.", path, error.message()));
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 bool SameDirectory(const std::string& a, const std::string& b) {

@@ -1,6 +1,6 @@
-#include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QTreeView>
 
 #include "desktop/text.h"
@@ -14,20 +14,13 @@ namespace {
 class DirectoryView : public WidgetView<DirectoryBox, QTreeView> {
   public:
     DirectoryView(ControlEntry& entry, DirectoryBox& box, QTreeView& shown, ControlEvents& events)
-        : WidgetView(entry, box, shown, events) {
-        QObject::connect(&shown, &QTreeView::clicked, &shown, [this](const QModelIndex& at) { Pick(at); });
-        QObject::connect(&shown, &QTreeView::activated, &shown, [this](const QModelIndex& at) { Pick(at); });
-    }
+        : WidgetView(entry, box, shown, events) {}
 
   private:
     void Pick(const QModelIndex& at) {
         Picked([&] {
-            const QDir directory(model_->filePath(at));
-            Record().Path = FromQt(directory.absolutePath());
+            Record().Path = FromQt(model_->filePath(at));
             if (!Record().Path.ends_with('/')) Record().Path += '/';
-            Record().Files.clear();
-            for (const QString& name : directory.entryList(QDir::Files | QDir::Hidden, QDir::Name))
-                Record().Files.push_back(FromQt(name));
         });
     }
 
@@ -39,6 +32,9 @@ class DirectoryView : public WidgetView<DirectoryBox, QTreeView> {
         Shown().setModel(model_);
         for (int column = 1; column < model_->columnCount(); ++column) Shown().hideColumn(column);
         Shown().header()->hide();
+        // By the mouse or by a key: to look into one directory after the other is no deed that could do harm.
+        QObject::connect(Shown().selectionModel(), &QItemSelectionModel::currentChanged, &Shown(),
+                         [this](const QModelIndex& at) { Pick(at); });
         // Directories are read beside the program; what is above the one picked comes in step by step.
         QObject::connect(model_, &QFileSystemModel::directoryLoaded, &Shown(),
                          [this] { Shown().scrollTo(Shown().currentIndex()); });

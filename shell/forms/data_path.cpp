@@ -3,9 +3,11 @@
 #include <cstdlib>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
+#include "core/base/failure.h"
 #include "core/files/files.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -22,15 +24,21 @@ void ShowPicker(frmPath& form, bool visible) {
         control->Visible = visible;
 }
 
+/// Goes on with the directory picked, or, after the user has been told why it can't be read, with the one before.
 void Dir1_Click(frmPath& form) {
-    form.lblPath.Caption = form.Dir1.Path;
-    form.File1.Clear();
-    for (const std::string& name : form.Dir1.Files) form.File1.Add(name);
+    try {
+        const std::vector<std::string> names = files::FilesIn(form.Dir1.Path);
+        form.lblPath.Caption = form.Dir1.Path;
+        form.File1.Clear();
+        for (const std::string& name : names) form.File1.Add(name);
+    } catch (const Refusal& refusal) {  // the choice stays with the user
+        form.Dir1.Path = form.lblPath.Caption;
+        TheScreen().Tell(refusal.what());
+    }
 }
 
 void Drive1_Click(frmPath& form) {
     form.Dir1.Path = form.Drive1.Text;
-    form.Dir1.Files.clear();
     Dir1_Click(form);
 }
 

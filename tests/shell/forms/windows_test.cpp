@@ -63,6 +63,10 @@ TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
                                            Directory.Path() + "home/veraqua/ or " + Directory.Path() +
                                            "home/Veraqua/\n\nPlease find it below or exit.  Thank You. ");
         At(FormName::frmPath).Click("cmd_Find");
+        form.Dir1.Path = Directory.Path() + "gone/";
+        At(FormName::frmPath).Click("Dir1");
+        EXPECT_EQ(User.LastSaid(), "Veraqua: " + Directory.Path() + "gone/ can't be read: No such file or directory.");
+        EXPECT_EQ(form.Dir1.Path, form.lblPath.Caption) << "the choice before";
         form.Dir1.Path = Directory.Path();
         At(FormName::frmPath).Click("Dir1").Click("cmd_OK");
         EXPECT_EQ(User.LastSaid(),
