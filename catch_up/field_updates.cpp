@@ -74,8 +74,9 @@ StationCatchUp UpdateFieldsForStation(Ask& ask, std::string_view what) {
         if (!SelectField(ask, row)) return UpdateStatus::Refused;
         if (State.StationCode != code) return UpdateStatus::Done;
         ++result.Fields;
-        const bool behind = State.Stat[row].LastDay < State.TodayJulian - 1;
-        return behind ? StatusOf(UpdateField(ask)) : UpdateStatus::Done;
+        if (State.Stat[row].LastDay >= State.TodayJulian - 1) return UpdateStatus::Done;
+        result.Run.push_back(row);
+        return StatusOf(UpdateField(ask));
     };
     AsOneSet(ask, [&] {
         for (std::size_t i = 0; i < rows.size(); ++i) {

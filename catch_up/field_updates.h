@@ -20,7 +20,8 @@ enum class UpdateStatus {
 std::vector<UpdateStatus> UpdateRows(Ask& ask, const std::vector<int>& rows);
 
 struct StationCatchUp {
-    int Fields = 0;  ///< fields of the station, whether they had to run or not
+    int Fields = 0;        ///< fields of the station, whether they had to run or not
+    std::vector<int> Run;  ///< rows of those that had to
     UpdateStatus Worst = UpdateStatus::Done;
 };
 

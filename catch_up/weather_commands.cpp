@@ -92,6 +92,8 @@ bool LocationIsChosen(Ask& ask) {
     return false;
 }
 
+std::string FieldsUpdatedText(int fields) { return "Fields updated: " + Masked(static_cast<double>(fields), "00"); }
+
 std::string NetworkUrl(int year) { return State.BaseUrl + NetworkFileName(year); }
 
 void TellDownloadError(Ask& ask, const HttpReply& reply) {
@@ -169,7 +171,7 @@ CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& dow
     if (report.Ending != CommandEnding::Done) return report;
     report.CatchUp =
         UpdateFieldsForStation(ask, command == WeatherCommand::Append ? "Updating fields" : "Updating fields!");
-    report.FieldsUpdated = "Fields updated: " + Masked(static_cast<double>(report.CatchUp->Fields), "00");
+    report.FieldsUpdated = FieldsUpdatedText(report.CatchUp->Fields);
     return report;
 }
 

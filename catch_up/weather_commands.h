@@ -46,6 +46,9 @@ bool StationIsChosen(Ask& ask);
 /// The same in the words of the commands that need no network.
 bool LocationIsChosen(Ask& ask);
 
+/// How many fields have been run: "Fields updated: 03".
+std::string FieldsUpdatedText(int fields);
+
 /// Where the text of the station in work and `year` is on the network: "http://kesta.example/kesta/data/0603rd.txt".
 std::string NetworkUrl(int year);
 

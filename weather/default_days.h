@@ -14,4 +14,7 @@ int DefaultDaysBefore(std::string_view stationCode, JulianValue from, JulianValu
 /// Of the days that a field with this header was run with.
 int DefaultDaysBefore(const HeaderCommon& header, JulianValue through);
 
+/// How many days of `range` a station has that aren't default weather: measured, or entered by hand.
+int MeasuredDays(std::string_view stationCode, const DayRange& range);
+
 }  // namespace veraqua

@@ -1,11 +1,14 @@
 #include "shell/forms/configuration.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <initializer_list>
 #include <string>
 
 #include <fmt/format.h>
 
 #include "core/base/text.h"
+#include "core/clock.h"
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
@@ -50,6 +53,30 @@ void cmd_Calendar_Click(frmConfig& form) {
 
 void Cal1_Click(frmConfig& form) { form.txtDate.Text = JulianToLongText(form.Cal1.Day); }
 
+/// A year is that from a day of a month to the same day of the next year.
+bool IsMoreThanAYearFrom(JulianValue day, JulianValue other) {
+    const Date earlier = DateFromJulian(std::min(day, other));
+    return std::max(day, other) > JulianFromDate(earlier.Month, earlier.Day, earlier.Year + 1);
+}
+
+/// Whether the user means `day` to be today. Weather of each year up to it would be wanted, and a year's files have but
+/// two digits: a century away they are those of another year.
+bool IsMeant(JulianValue day) {
+    const JulianValue clock = ClockDate();
+    const std::string text = JulianToLongText(day);
+    if (std::abs(YearOf(day) - YearOf(clock)) >= 100) {
+        TheScreen().Tell(fmt::format("{} is a century or more from the date of your computer, {}. Look at the year.",
+                                     text, JulianToLongText(clock)),
+                         "Date not accepted!", Icon::Warning);
+        return false;
+    }
+    const JulianValue now = TheScreen().Now();
+    if (!IsMoreThanAYearFrom(day, clock) || !IsMoreThanAYearFrom(day, now)) return true;
+    return TheScreen().YesNo(
+        fmt::format("{} is more than a year from {}.\nDo you want it to be today?", text, JulianToLongText(now)),
+        "Date Set", Icon::Question, true);
+}
+
 void cmdOK_Click(frmConfig& form) {
     if (!IsCalendarDay(Trimmed(form.txtDate.Text))) {
         // The day stands first in these words, but the month is read first.
@@ -58,6 +85,7 @@ void cmdOK_Click(frmConfig& form) {
     }
     const JulianValue day = TypedDay(form.txtDate);
     if (day == 0) return;
+    if (!IsMeant(day)) return Focus(form.txtDate);
     State.TodayJulian = day;
     TheScreen().SetNow(day);
     ShowProgramIn(form.StatusBar1);

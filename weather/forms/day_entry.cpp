@@ -14,6 +14,7 @@
 #include "screen/screen.h"
 #include "weather/coverage.h"
 #include "weather/day_rows.h"
+#include "weather/forms/changed_weather.h"
 #include "weather/reference_et.h"
 #include "weather/weather_file.h"
 
@@ -164,6 +165,7 @@ void cmd_OK_Click(frmWeather& form) {
     EnableMenus(form);
     ClearPanels(form);
     form.Cmd_Exit.Visible = true;
+    OfferRuns(form, {form.EntryDay, form.EntryDay});
 }
 
 }  // namespace veraqua

@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include <fmt/format.h>
+
 #include "catch_up/weather_commands.h"
 #include "core/field_in_work.h"
 #include "core/state.h"
@@ -10,7 +12,9 @@
 #include "screen/screen.h"
 #include "weather/coverage.h"
 #include "weather/day_rows.h"
+#include "weather/default_days.h"
 #include "weather/default_weather.h"
+#include "weather/forms/changed_weather.h"
 #include "weather/forms/day_entry.h"
 #include "weather/forms/download.h"
 #include "weather/forms/station_list.h"
@@ -20,10 +24,7 @@ namespace veraqua {
 
 namespace {
 
-constexpr std::string_view Chooser = "frmKESTA";
 constexpr std::string_view MainMenu = "frmVeraqua";
-
-bool ChooserHasCalled() { return State.CallerForm == Chooser; }
 
 /// Shows `day`, the last one written, and above it `last`, the last of the range.
 void ShowDay(frmWeather& form, const WeatherDay& day, JulianValue last) {
@@ -51,6 +52,7 @@ void ShowReport(frmWeather& form, const CommandReport& report) {
     form.StatusBar1.Panels[0] = report.Status;
     form.lblUpdate.Caption = report.FieldsUpdated;
     form.lblUpdate.Visible = report.CatchUp.has_value();
+    if (report.CatchUp) OfferRuns(form, report.Range, report.CatchUp->Run);
 }
 
 /// Where the chooser has called, no field catches up. Appending takes the text that the chooser has downloaded, or that
@@ -72,13 +74,42 @@ void BringFromNetwork(frmWeather& form, WeatherCommand command) {
                                         : BringWeather(TheScreen(), command, DownloadText));
 }
 
+/// False if the user wants to keep the measured days that default weather of `range` would replace.
+bool MayReplaceMeasuredDays(const DayRange& range) {
+    const int days = MeasuredDays(State.StationCode, range);
+    if (days == 0) return true;
+    return TheScreen().YesNo(fmt::format("Default weather would replace {} measured day{} between {} and {}.\n"
+                                         "Do you want to replace {}?",
+                                         days, days == 1 ? "" : "s", JulianToShortText(range.From),
+                                         JulianToShortText(range.To), days == 1 ? "it" : "them"),
+                             "Weather Info", Icon::Question, true);
+}
+
+/// The days of the station chooser if it has called, else this year through yesterday.
+DayRange RangeOfDefaultWeather(const frmWeather& form) {
+    if (ChooserHasCalled()) return form.Wanted;
+    return {JulianFromDate(1, 1, YearOf(TheScreen().Now())), State.TodayJulian - 1};
+}
+
+/// Writes default weather and shows its last day.
+void LoadDefaultWeather(frmWeather& form) {
+    ClearPanels(form);
+    const DayRange range = RangeOfDefaultWeather(form);
+    WantWeather(range);
+    BringDefaultWeather(range);
+    if (ChooserHasCalled()) form.Cmd_Exit.Caption = "OK";
+    form.StatusBar1.Panels[0] = "Weather files updated with DEFAULT Data between " + JulianToShortText(range.From) +
+                                " and " + JulianToShortText(range.To);
+    ShowDay(form, DefaultDay(State.WeatherCoeff, DayOfYearFromJulian(range.To).DayOfYear), range.To);
+}
+
 void Load(frmWeather& form) {
     ClearPanels(form);
     if (State.StationCode == NoStation) mnu_KESTAloc_Click(form);
     State.WeatherYearSuffix = YearSuffix(YearOf(TheScreen().Now()));
     ShowStationOn(form, form.StatusBar1);
     // The chooser shows this window so that the user sees the default weather that they take.
-    if (ChooserHasCalled()) mnu_default_Click(form);
+    if (ChooserHasCalled()) LoadDefaultWeather(form);
 }
 
 void Unloaded(frmWeather& form) {
@@ -180,6 +211,8 @@ void EnableMenus(frmWeather& form, bool enabled) {
         menu->Enabled = enabled;
 }
 
+bool ChooserHasCalled() { return State.CallerForm == "frmKESTA"; }
+
 bool HasStation(frmWeather& form) {
     if (LocationIsChosen(TheScreen())) return true;
     mnu_KESTAloc_Click(form);
@@ -201,17 +234,10 @@ void mnu_OverwriteWeather_Click(frmWeather& form) { BringFromNetwork(form, Weath
 
 void mnu_default_Click(frmWeather& form) {
     if (!HasStation(form)) return;
-    ClearPanels(form);
-    DayRange range = form.Wanted;
-    if (!ChooserHasCalled()) {
-        range = {JulianFromDate(1, 1, YearOf(TheScreen().Now())), State.TodayJulian - 1};
-        WantWeather(range);
-    }
-    BringDefaultWeather(range);
-    if (ChooserHasCalled()) form.Cmd_Exit.Caption = "OK";
-    form.StatusBar1.Panels[0] = "Weather files updated with DEFAULT Data between " + JulianToShortText(range.From) +
-                                " and " + JulianToShortText(range.To);
-    ShowDay(form, DefaultDay(State.WeatherCoeff, DayOfYearFromJulian(range.To).DayOfYear), range.To);
+    const DayRange range = RangeOfDefaultWeather(form);
+    if (!MayReplaceMeasuredDays(range)) return;
+    LoadDefaultWeather(form);
+    OfferRuns(form, range);
 }
 
 void ShowDefaultWeather(const DayRange& wanted) {

@@ -73,11 +73,15 @@ void mnu_AppendWeather_Click(frmWeather& form);
 void mnu_OverwriteWeather_Click(frmWeather& form);
 
 /// Writes default weather: for the range of the station chooser if it has called, else for this year through yesterday.
+/// Measured days are replaced only if the user agrees.
 void mnu_default_Click(frmWeather& form);
 
 /// Shows the window for the station chooser, with the default weather of the days `wanted` written, until the user has
 /// seen it.
 void ShowDefaultWeather(const DayRange& wanted);
+
+/// Whether the station chooser shows the window.
+bool ChooserHasCalled();
 
 /// Whether a station is chosen; if not, the user is told and the list of stations opens. The downloads have words of
 /// their own for it.

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/clock.h"
 #include "data/embedded.h"
 #include "reports/forms/forms.h"
 #include "shell/forms/configuration.h"
@@ -153,7 +154,18 @@ TEST_F(Options, PutADateInThePlaceOfTheComputers) {
             << text;
         EXPECT_TRUE(State.TodayJulian == JulianFromDate(7, 15, 2003) && User.Now() == State.TodayJulian) << text;
     }
+    const int century = YearOf(ClockDate()) + 100;
+    At(FormName::frmConfig).Type("txtDate", fmt::format("1/1/{}", century)).Click("cmdOK");
+    EXPECT_THAT(User.LastSaid(),
+                testing::StartsWith(fmt::format("Date not accepted!: 01-01-{} is a century or more from", century)));
+    At(FormName::frmConfig).Type("txtDate", "7/16/2004").Click("cmdOK");
+    EXPECT_EQ(User.Asked.size(), 1U);
+    EXPECT_EQ(User.Asked.back().Text, "07-16-2004 is more than a year from 07-15-2003.\nDo you want it to be today?");
+    EXPECT_EQ(State.TodayJulian, JulianFromDate(7, 15, 2003));
+    At(FormName::frmConfig).Type("txtDate", "7/15/2004").Click("cmdOK");  // a year to the day
+    User.OtherAnswer = true;
     At(FormName::frmConfig).Type("txtDate", " 2/28/2005 ").Click("cmdOK");
+    EXPECT_EQ(User.Asked.size(), 1U);
     EXPECT_EQ(User.LastSaid(), "Date Set: New Date set to 02-28-2005.  (Julian Value = 732311).");
     EXPECT_EQ(State.TodayJulian, 732311);
     EXPECT_EQ(Form.StatusBar1.Panels[1], "  Today is 02-28-2005");

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "catch_up/field_updates.h"
 #include "catch_up/weather_check.h"
 #include "tests/reports/expected_text.h"
 #include "tests/weather/forms/weather_forms_fixture.h"
@@ -89,6 +90,45 @@ TEST_F(WeatherMenu, TakesTheStationOfThePositionPicked) {
         EXPECT_EQ(Form.ComboKESTA.Visible, !taken);
     }
     EXPECT_EQ(State.WeatherCoeff, WeatherCoefficientsOf("SORA VALLEY"));  // runs and checks take another for 01
+}
+
+TEST_F(WeatherMenu, TellsWhatElseANewWeatherConcerns) {
+    AWeatherYear("06", 2003).Through(195).Store();
+    AField().Days(10).StoreAt(1);
+    UpdateRows(User, {1});
+    AField().Days(10).StoreAt(2);  // behind: it catches up by itself
+    AField().Station("02").Days(10).StoreAt(3);
+    const std::string field = Directory.Raw("field1.dat");
+    const std::string question = "1 field was worked out with the weather that has changed.\nRun it now?";
+    Serve("03", NetworkDays(1, 195));
+    User.WhenShown(FormName::frmDownload, [] { At(FormName::frmDownload).Click("cmd_OK"); });
+    Show(FormName::frmWeather);
+    At(FormName::frmWeather).Click("mnu_OverwriteWeather");
+    EXPECT_EQ(User.LastAsked(), "Weather Info: " + question);
+    EXPECT_EQ(State.Stat[2].LastDay, Yesterday);
+    EXPECT_EQ(Directory.Raw("field1.dat"), field);
+
+    User.Asked.clear();
+    At(FormName::frmWeather).Click("mnu_default");
+    ASSERT_EQ(User.Asked.size(), 1U);
+    EXPECT_EQ(User.Asked[0].Text,
+              "Default weather would replace 195 measured days between 01-01-03 and 07-14-03.\n"
+              "Do you want to replace them?");
+    EXPECT_EQ(SourceOf(1) + SourceOf(195), "kestakesta");
+    User.OtherAnswer = true;
+    At(FormName::frmWeather).Click("mnu_default");
+    EXPECT_EQ(User.Asked.back().Text, "2 fields were worked out with the weather that has changed.\nRun them now?");
+    EXPECT_EQ(SourceOf(1) + SourceOf(195), "defaultdefault");
+    EXPECT_EQ(Form.lblUpdate.Caption, "Fields updated: 02");
+    EXPECT_NE(Directory.Raw("field1.dat"), field);
+    EXPECT_EQ(State.WeatherLastJulian, Yesterday);
+
+    User.Asked.clear();  // a day entered before planting, on 1 May, and one after it
+    At(FormName::frmWeather).Click("mnu_enter").Type("txtDate", "04-10-2003").Click("cmd_DateOK").Click("cmd_OK");
+    EXPECT_TRUE(User.Asked.empty());
+    At(FormName::frmWeather).Click("mnu_enter").Type("txtDate", "06-10-2003").Click("cmd_DateOK").Click("cmd_OK");
+    EXPECT_EQ(User.Asked.size(), 1U);
+    EXPECT_TRUE(Form.lblUpdate.Visible);
 }
 
 TEST_F(WeatherMenu, GoesOnWithTheStationPickedInTheViewer) {
