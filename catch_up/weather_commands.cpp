@@ -154,16 +154,30 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& rang
     return report;
 }
 
+std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, const DayRange& range,
+                                           const Download& download) {
+    const int year = YearOf(range.From);
+    const std::string name = NetworkTextName(year);
+    const auto earlier = files::Read(name);
+    if (!download(year)) return std::nullopt;
+    CommandReport report = ImportRange(ask, command, range);
+    const auto fetched = files::Read(name);
+    if (earlier && fetched && !TextServes(*fetched, range)) {
+        files::ChangeSet changes;
+        files::Write(name, *earlier);
+        changes.Commit();
+    }
+    return report;
+}
+
 CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download) {
     if (!StationIsChosen(ask)) return Ended(CommandEnding::StationMissing);
     const std::optional<DayRange> range = ChooseRange(ask, command);
     if (!range) return Ended(CommandEnding::Declined);
-    if (!download(YearOf(range->From))) {
-        TellDownloadFailed(ask);
-        return Failed(*range);
-    }
     State.DownloadFailed = false;
-    return ImportRange(ask, command, *range);
+    if (const auto report = ImportFetched(ask, command, *range, download)) return *report;
+    TellDownloadFailed(ask);
+    return Failed(*range);
 }
 
 CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download) {

@@ -75,6 +75,11 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& rang
 /// Fetches the text of the station in work and a year and stores it. False after the user has been told why not.
 using Download = std::function<bool(int year)>;
 
+/// Gets the text of the first year of `range` by `download` and imports the range; nothing if it can't be had. A text
+/// that the import can't use doesn't stay in the place of an earlier one.
+std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, const DayRange& range,
+                                           const Download& download);
+
 /// Range, download and import of a menu command.
 CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download);
 

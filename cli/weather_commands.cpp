@@ -108,14 +108,22 @@ int RunWeatherDefault(Session& session, const std::string& station, const std::s
 int RunWeatherImport(Session& session, const ImportOptions& options) {
     if (!OpenStation(session, options.Station) || !StationIsChosen(session.Outside)) return ExitRefused;
     files::Bytes text = files::ReadOutside(options.File, LargestNetworkText);
+    if (text.find('\0') != files::Bytes::npos) {
+        session.Outside.Tell(fmt::format("{} is no text of the weather network.", options.File));
+        return ExitRefused;
+    }
     files::ChangeSet changes;
     const std::optional<DayRange> range = RangeOfImport(session, options);
     if (!range) return ExitRefused;
-    files::Write(NetworkTextName(YearOf(range->From)), std::move(text));
-    const CommandReport report = ImportRange(session.Outside, WeatherCommand::Append, *range);
+    const auto takeText = [&text](int year) {
+        files::Write(NetworkTextName(year), std::move(text));
+        return true;
+    };
+    const auto report = ImportFetched(session.Outside, WeatherCommand::Append, *range, takeText);
     changes.Commit();
-    if (report.Ending == CommandEnding::Done) session.Print(JsonOfImport(report), report.Status + "\n");
-    return StatusOf(report);
+    if (!report) return ExitRefused;
+    if (report->Ending == CommandEnding::Done) session.Print(JsonOfImport(*report), report->Status + "\n");
+    return StatusOf(*report);
 }
 
 int RunWeatherFetch(Session& session, const std::string& station, bool overwrite) {

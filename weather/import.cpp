@@ -35,6 +35,30 @@ WeatherDay DayOf(const NetworkLine& line) {
     return day;
 }
 
+enum class FirstLineKind { Found, TextEnds, WrongYear, WrongStation };
+
+/// Where a text begins to tell of the days wanted.
+struct FirstLine {
+    FirstLineKind Kind = FirstLineKind::TextEnds;
+    std::optional<NetworkLine> Line;  ///< of the wanted day or later; where the text ends before, its last one if any
+};
+
+/// Looks for the line of the day `wanted` or later. The lines up to it must be of the year and the station in work.
+FirstLine FindFirstLine(NetworkText& text, const DayInYear& wanted) {
+    using enum FirstLineKind;
+    const std::string year = fmt::format("{}", wanted.Year);
+    const std::optional<std::int32_t> station = WholeNumber(State.StationCode);
+    FirstLine first;
+    while (const auto next = text.Next()) {
+        if (next->Year != year && next->Year != YearSuffix(wanted.Year)) return {WrongYear, std::nullopt};
+        if (next->Station != station) return {WrongStation, std::nullopt};
+        if (next->DayOfYear == 0) break;
+        first.Line = next;
+        if (next->DayOfYear >= wanted.DayOfYear) return {Found, next};
+    }
+    return first;
+}
+
 class Importer {
   public:
     Importer(Ask& ask, const ImportWording& wording, const DayRange& range)
@@ -46,7 +70,7 @@ class Importer {
           file_(State.StationCode, place_.Year) {}
 
     ImportOutcome Run() {
-        if (OpenText() && FindFirstLine()) {
+        if (OpenText() && GoToFirstLine()) {
             outcome_.Imported = true;
             while (PlaceLine() && NextDay() && NextLine()) {}
         }
@@ -67,18 +91,13 @@ class Importer {
         return true;
     }
 
-    /// Goes to the first line of the wanted day or later. The lines up to it must be of the year and the station.
-    bool FindFirstLine() {
-        const std::string year = fmt::format("{}", place_.Year);
-        const std::optional<std::int32_t> station = WholeNumber(State.StationCode);
-        while (const auto next = text_->Next()) {
-            if (next->Year != year && next->Year != YearSuffix(place_.Year)) return Refuse(wording_.WrongYear);
-            if (next->Station != station) return Refuse(wording_.WrongStation);
-            if (next->DayOfYear == 0) break;
-            line_ = next;
-            if (line_->DayOfYear >= place_.DayOfYear) return true;
-        }
-        ended_ = true;
+    /// Goes to the first line of the wanted day or later; false after the user has been told why there is none.
+    bool GoToFirstLine() {
+        const FirstLine first = FindFirstLine(*text_, place_);
+        if (first.Kind == FirstLineKind::WrongYear) return Refuse(wording_.WrongYear);
+        if (first.Kind == FirstLineKind::WrongStation) return Refuse(wording_.WrongStation);
+        ended_ = first.Kind == FirstLineKind::TextEnds;
+        line_ = first.Line;
         if (!line_) TellDownloadFailed(ask_);
         return line_.has_value();
     }
@@ -171,6 +190,12 @@ void TellTextMissing(Ask& ask, const ImportWording& wording, int year) {
 
 void TellDownloadFailed(Ask& ask) {
     ask.Tell("No weather data was saved, try loading default data", "DOWNLOAD FAILED");
+}
+
+bool TextServes(std::string_view bytes, const DayRange& range) {
+    const DayInYear wanted = DayOfYearFromJulian(range.From);
+    NetworkText text(bytes, wanted.Year);
+    return FindFirstLine(text, wanted).Line.has_value();
 }
 
 ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, const DayRange& range) {

@@ -35,6 +35,10 @@ void TellTextMissing(Ask& ask, const ImportWording& wording, int year);
 /// Tells that nothing could be taken.
 void TellDownloadFailed(Ask& ask);
 
+/// Whether the text `bytes` serves an import of `range` for the station in work: it has a line, and its lines up to the
+/// first wanted day are of the year and of the station.
+bool TextServes(std::string_view bytes, const DayRange& range);
+
 /// Imports the days of `range` from the text of their year. Gaps of the text become default days; a day whose line
 /// lacks a value ends the import when it is the day wanted. What was written by then stays.
 ImportOutcome ImportWeather(Ask& ask, const ImportWording& wording, const DayRange& range);

@@ -32,7 +32,9 @@ constexpr std::string_view CannotBeWritten = "can't be written";
 }  // namespace
 
 void Fail(std::string_view name, std::string_view what, int error) {
-    throw RunTimeFailure(fmt::format("{} {}: {}.", name, what, std::generic_category().message(error)));
+    // A name that is empty shows as such.
+    throw RunTimeFailure(
+        fmt::format("{} {}: {}.", name.empty() ? "\"\"" : name, what, std::generic_category().message(error)));
 }
 
 std::optional<OpenedFile> OpenToRead(int directory, const std::string& name) {

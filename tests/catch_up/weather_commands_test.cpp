@@ -76,6 +76,22 @@ TEST_F(WeatherCommands, RefuseAForeignTextEachInItsWords) {
     }
 }
 
+TEST_F(WeatherCommands, LeaveTheEarlierTextInPlaceOfOneThatCannotBeUsed) {
+    AWeatherYear("06", 2003).Through(190).Store();
+    const std::string earlier = NetworkDays(1, 190);
+    User.OtherAnswer = false;
+    for (const std::string& text :
+         {std::string(ANetworkLine(191).Year("2002")), std::string(ANetworkLine(191).Station("8")), std::string("\n"),
+          std::string("<html>")}) {
+        Directory.Put("kesta.03", earlier);
+        Bring(Append, text);
+        EXPECT_EQ(Directory.Raw("kesta.03"), earlier) << text;
+        EXPECT_NE(Directory.Raw("0603rd.txt"), earlier);
+    }
+    Bring(Append, NetworkDays(1, 191));  // can be used, only the days that it lacks were declined
+    EXPECT_EQ(Directory.Raw("kesta.03"), Directory.Raw("0603rd.txt"));
+}
+
 TEST_F(WeatherCommands, TellOnceThatNothingWasSaved) {
     User.OtherAnswer = true;
     EXPECT_EQ(Bring(Overwrite, "").Ending, CommandEnding::Failed);  // a text without a line

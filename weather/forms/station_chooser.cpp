@@ -42,10 +42,10 @@ enum class YearEnding {
 };
 
 YearEnding BringYearFromNetwork(const DayRange& range) {
-    const int year = YearOf(range.From);
-    State.WeatherYearSuffix = YearSuffix(year);
-    if (!DownloadText(year)) return YearEnding::Failed;
-    switch (ImportRange(TheScreen(), WeatherCommand::Append, range).Ending) {
+    State.WeatherYearSuffix = YearSuffix(YearOf(range.From));
+    const auto report = ImportFetched(TheScreen(), WeatherCommand::Append, range, DownloadText);
+    if (!report) return YearEnding::Failed;
+    switch (report->Ending) {
         case CommandEnding::Done: return YearEnding::Brought;
         case CommandEnding::Failed: return YearEnding::Failed;
         default: return YearEnding::Declined;
