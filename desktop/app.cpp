@@ -3,6 +3,8 @@
 #include <fontconfig/fontconfig.h>
 
 #include <QIcon>
+#include <QTimer>
+#include <chrono>
 #include <cstdlib>
 #include <thread>
 
@@ -62,6 +64,9 @@ int RunDesktop(QApplication&, const StartOptions& options) {
         screen.Failed(failure);
         return EXIT_FAILURE;
     }
+    QTimer minute;
+    QObject::connect(&minute, &QTimer::timeout, &minute, [&screen] { screen.PassMinute(); });
+    minute.start(std::chrono::minutes(1));
     return QApplication::exec();
 }
 

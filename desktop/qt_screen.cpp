@@ -60,6 +60,13 @@ void QtScreen::BringAll() {
         if (window->Table().Shown) window->Bring();
 }
 
+void QtScreen::PassMinute() {
+    if (QApplication::activeModalWidget() != nullptr) return;
+    EventBegins();
+    MinutePassed();
+    EventEnds();
+}
+
 void QtScreen::ShowWindow(FormTable& form, Qt::WindowModality modality) {
     BoundWindow& bound = WindowOf(form);
     QWidget& window = bound.Window();

@@ -46,6 +46,9 @@ class QtScreen : public Screen, public WindowEvents {
     /// The window of a form, made if it isn't yet.
     BoundWindow& WindowOf(FormTable& form);
 
+    /// Tells the forms that a minute has passed, unless the user is in the middle of something.
+    void PassMinute();
+
     /// Brings all forms that are shown to the screen.
     void BringAll();
 

@@ -73,6 +73,7 @@ class FormTable {
     std::function<void()> Load;    ///< before it is first shown
     std::function<void()> Appear;  ///< each time before it is brought to the user, after `Load`
     std::function<void()> Fill;    ///< asked for by another form, which doesn't know this one
+    std::function<void()> Minute;  ///< each minute, while it is loaded: the day may have changed
     std::function<void()> Follow;  ///< after each event of any form, while it is loaded: what it shows may have changed
     std::function<void()> Close;   ///< what the window's frame and Esc do: the form's own leave button
     std::function<void()> Unload;  ///< when its window goes
@@ -179,6 +180,7 @@ class FormFor {
     FormFor& Load(Handler function) { return Hook(table_.Load, function); }
     FormFor& Appear(Handler function) { return Hook(table_.Appear, function); }
     FormFor& Fill(Handler function) { return Hook(table_.Fill, function); }
+    FormFor& Minute(Handler function) { return Hook(table_.Minute, function); }
     FormFor& Follow(Handler function) { return Hook(table_.Follow, function); }
     FormFor& Close(Handler function) { return Hook(table_.Close, function); }
     FormFor& Unload(Handler function) { return Hook(table_.Unload, function); }

@@ -171,6 +171,15 @@ void Choose(FormTable& form, OptionButton& option) {
     option.Chosen = true;
 }
 
+void MinutePassed() {
+    for (FormTable& form : Forms())
+        if (form.Loaded && form.Minute)
+            AsEvent(form, [&form] {
+                form.Minute();
+                return true;
+            });
+}
+
 void CloseForm(FormTable& form) {
     AsEvent(form, [&form] {
         if (form.Close)

@@ -50,6 +50,9 @@ bool RunEvent(FormTable& form, const ControlEntry& control, Event event);
 /// Chooses an option: the options of one form are one group.
 void Choose(FormTable& form, OptionButton& option);
 
+/// Tells the forms that wait for it that a minute has passed.
+void MinutePassed();
+
 /// Presses the form's leave button for the user who closes the window by its frame or Esc.
 void CloseForm(FormTable& form);
 

@@ -1,6 +1,9 @@
 #include "shell/forms/main_menu.h"
 
 #include <cstdint>
+#include <string>
+
+#include <fmt/format.h>
 
 #include "core/directory.h"
 #include "core/files/files.h"
@@ -11,6 +14,7 @@
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "shell/data_search.h"
+#include "shell/forms/configuration.h"
 
 namespace veraqua {
 
@@ -93,6 +97,21 @@ void cmdExit_Click(frmVeraqua&) {
     TheScreen().EndProgram();
 }
 
+/// Offers the new day when midnight has passed. A date that the user has set stays until the program ends.
+void Minute(frmVeraqua& form) {
+    const JulianValue day = TheScreen().Now();
+    if (day == State.TodayJulian || day == form.DayOffered) return;
+    form.DayOffered = day;
+    const std::string text =
+        fmt::format("A new day has begun: {}. Veraqua still works with {}.\nDo you want to go on with the new day?",
+                    JulianToLongText(day), JulianToLongText(State.TodayJulian));
+    if (!TheScreen().YesNo(text, "New Day", Icon::Question, false)) return;
+    State.TodayJulian = day;
+    ShowProgramIn(form.StatusBar1);
+    if (IsLoaded(FormName::frmConfig)) ShowProgramIn(The<frmConfig>().StatusBar1);
+    ShowToday(form);
+}
+
 void Unloaded(frmVeraqua&) {
     State.CallerForm.clear();  // no window goes back to this one
     for (const FormName form : {FormName::frmWeather, FormName::frmKESTA, FormName::frmField, FormName::frmFieldData,
@@ -131,7 +150,7 @@ FormTable TableOf(frmVeraqua& form) {
     table.Add("cmdPrintToday", form.cmdPrintToday).Click(cmdPrintToday_Click);
     table.Add("cmdSaveToday", form.cmdSaveToday).Click(cmdSaveToday_Click);
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Appear(ShowToday).Fill(ShowToday).Close(cmdExit_Click).Unload(Unloaded);
+    table.Load(Load).Appear(ShowToday).Fill(ShowToday).Minute(Minute).Close(cmdExit_Click).Unload(Unloaded);
     return table.Done();
 }
 

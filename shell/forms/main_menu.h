@@ -37,6 +37,7 @@ struct frmVeraqua : Form {
 
     StatusBar StatusBar1;
 
+    JulianValue DayOffered = 0;                ///< the new day that the user was last told of
     std::optional<std::string> DataDirectory;  ///< to open in the place of the usual one
 };
 

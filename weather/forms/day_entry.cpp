@@ -1,5 +1,6 @@
 #include "weather/forms/day_entry.h"
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <optional>
@@ -100,7 +101,7 @@ void mnu_enter_Click(frmWeather& form) {
     for (Control* control : std::initializer_list<Control*>{&form.lbl_EditWeather, &form.lbl_SelectDate,
                                                             &form.cmd_Calendar, &form.txtDate, &form.cmd_DateOK})
         control->Visible = true;
-    form.txtDate.Text = JulianToLongText(TheScreen().Now() - 1);
+    form.txtDate.Text = JulianToLongText(std::min(TheScreen().Now(), State.TodayJulian) - 1);
     Focus(form.txtDate);
 }
 

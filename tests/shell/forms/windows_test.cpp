@@ -50,6 +50,19 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     EXPECT_EQ(State.BaseUrl, "http://other.example/data/");
     const auto& panels = The<frmVeraqua>().StatusBar1.Panels;
     EXPECT_EQ(panels[0] + panels[1], " Veraqua Ver 1.17   Today is 07-15-2003");
+
+    const JulianValue today = State.TodayJulian;
+    ++User.Today;
+    MinutePassed();
+    MinutePassed();
+    EXPECT_EQ(User.Asked.size(), 1U) << "the new day is offered once";
+    EXPECT_EQ(State.TodayJulian, today) << "and taken when the user says so";
+    ++User.Today;
+    User.Answers = {true};
+    MinutePassed();
+    EXPECT_EQ(State.TodayJulian, today + 2);
+    EXPECT_EQ(panels[1], "  Today is 07-17-2003");
+
     Show(FormName::frmWeather);
     EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
     EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
