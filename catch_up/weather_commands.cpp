@@ -56,6 +56,29 @@ bool AcceptsMissingDays(Ask& ask, int lines, const DayRange& range) {
                      "Weather Info", Icon::Question, true);
 }
 
+std::string StatusText(const DayRange& range) {
+    return "Weather file updated from KESTA between " + JulianToShortText(range.From) + " and " +
+           JulianToShortText(range.To);
+}
+
+/// The import has ended early: says so, and where the weather ends now. Days of the range that are open then become
+/// default days if they are offered and the user wants them.
+void SettleOpenDays(Ask& ask, const ImportOutcome& outcome, const DayRange& range, OpenDays openDays) {
+    if (outcome.EndedBefore == 0) return;
+    const DayRange open{WeatherReaches(range) + 1, range.To};
+    const std::string text = fmt::format(
+        "The import has ended before {}: the text {}. Weather is there through {}. Download again when the network has "
+        "the day, enter it by hand, or load default data for it.",
+        JulianToShortText(outcome.EndedBefore),
+        outcome.EndedByMissing ? "lacks a value of that day" : "has no line for it", JulianToShortText(open.From - 1));
+    constexpr std::string_view title = "Weather Info";
+    if (openDays == OpenDays::Tell || open.From > open.To) return ask.Tell(text, title, Icon::Information);
+    if (ask.YesNo(fmt::format("{}\nUse default data from {} to {}?", text, JulianToShortText(open.From),
+                              JulianToShortText(open.To)),
+                  title, Icon::Question, true))
+        WriteDefaultWeather(open);
+}
+
 void TellWindlessDays(Ask& ask, const std::vector<JulianValue>& days) {
     if (days.empty()) return;
     std::string text = "No wind was measured on";
@@ -64,7 +87,17 @@ void TellWindlessDays(Ask& ask, const std::vector<JulianValue>& days) {
              "Weather Info", Icon::Information);
 }
 
+/// Last stored day of a year whose file, if there is one, stays as it is; 0 if there is none.
+JulianValue LastStoredDay(int year) {
+    return files::Exists(WeatherFileName(State.StationCode, year)) ? LastWeatherJulian(State.StationCode, year) : 0;
+}
+
 std::optional<DayRange> AppendedRange(Ask& ask, int year) {
+    if (State.WeatherLastJulian == 0) {
+        DayRange missing = FindMissingDays(year);
+        if (const JulianValue last = LastStoredDay(year - 1)) missing.From = last + 1;
+        return missing;
+    }
     if (State.WeatherLastJulian < Yesterday()) return FindMissingDays(year);
     if (!ask.YesNo("Your weather data is already up-to-date\n  Do you want to overwrite it?", "Weather Info",
                    Icon::Question, true)) {
@@ -124,6 +157,10 @@ std::optional<DayRange> ChooseRange(Ask& ask, WeatherCommand command) {
     const std::optional<DayRange> range = command == WeatherCommand::Append
                                               ? AppendedRange(ask, year)
                                               : DayRange{JulianFromDate(1, 1, year), Yesterday()};
+    if (range && range->To < range->From) {
+        ask.Tell(fmt::format("There is no weather of {} to bring in yet.", year), "Weather Info");
+        return std::nullopt;
+    }
     if (range) WantWeather(*range);
     return range;
 }
@@ -133,7 +170,7 @@ void TakeRange(const DayRange& range) {
     State.WeatherLastJulian = LastWeatherJulian(State.StationCode, YearOf(range.To));
 }
 
-CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range) {
+CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range, OpenDays openDays) {
     const ImportWording& wording = WordingOf(command);
     const int year = YearOf(range.From);
     const auto text = files::Read(NetworkTextName(year));
@@ -145,22 +182,22 @@ CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& rang
     const ImportOutcome outcome = ImportWeather(ask, wording, range);
     if (!outcome.Imported) return Failed(range);
     TellWindlessDays(ask, outcome.WindlessDays);
+    SettleOpenDays(ask, outcome, range, openDays);
     RaiseLastDay(range.To);
     CommandReport report = Ended(CommandEnding::Done, range);
     report.WeatherTo = State.WeatherLastJulian;
     report.LastLine = outcome.LastDay;
-    report.Status = "Weather file updated from KESTA between " + JulianToShortText(range.From) + " and " +
-                    JulianToShortText(range.To);
+    report.Status = StatusText(range);
     return report;
 }
 
 std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, const DayRange& range,
-                                           const Download& download) {
+                                           const Download& download, OpenDays openDays) {
     const int year = YearOf(range.From);
     const std::string name = NetworkTextName(year);
     const auto earlier = files::Read(name);
     if (!download(year)) return std::nullopt;
-    CommandReport report = ImportRange(ask, command, range);
+    CommandReport report = ImportRange(ask, command, range, openDays);
     const auto fetched = files::Read(name);
     if (earlier && fetched && !TextServes(*fetched, range)) {
         files::ChangeSet changes;
@@ -170,18 +207,29 @@ std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, con
     return report;
 }
 
-CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download) {
+CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download, OpenDays openDays) {
     if (!StationIsChosen(ask)) return Ended(CommandEnding::StationMissing);
     const std::optional<DayRange> range = ChooseRange(ask, command);
     if (!range) return Ended(CommandEnding::Declined);
-    State.DownloadFailed = false;
-    if (const auto report = ImportFetched(ask, command, *range, download)) return *report;
-    TellDownloadFailed(ask);
-    return Failed(*range);
+    const auto fetch = [&](const DayRange& ofYear) {
+        State.DownloadFailed = false;
+        if (auto report = ImportFetched(ask, command, ofYear, download, openDays)) return *std::move(report);
+        TellDownloadFailed(ask);
+        return Failed(ofYear);
+    };
+    const JulianValue newYear = JulianFromDate(1, 1, YearOf(range->To));
+    if (range->From >= newYear) return fetch(*range);
+    // Last year's text that can't be had keeps nobody from this year's.
+    const CommandReport lastYear = fetch({range->From, newYear - 1});
+    CommandReport report = fetch({newYear, range->To});
+    if (lastYear.Ending != CommandEnding::Done || report.Ending != CommandEnding::Done) return report;
+    report.Range = *range;
+    report.Status = StatusText(*range);
+    return report;
 }
 
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download) {
-    CommandReport report = FetchWeather(ask, command, download);
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download, OpenDays openDays) {
+    CommandReport report = FetchWeather(ask, command, download, openDays);
     if (report.Ending != CommandEnding::Done) return report;
     report.CatchUp =
         UpdateFieldsForStation(ask, command == WeatherCommand::Append ? "Updating fields" : "Updating fields!");

@@ -23,7 +23,7 @@ enum class WeatherCommand {
 enum class CommandEnding {
     Done,
     StationMissing,  ///< no station is chosen: the user has been told, and is to choose one
-    Declined,        ///< the user answered a question with No
+    Declined,        ///< nothing was brought in: the user answered a question with No, or no day can be missing yet
     Failed,          ///< the user has been told; in the state `DownloadFailed` is true
 };
 
@@ -62,15 +62,23 @@ void StoreNetworkText(int year, std::string_view body);
 /// Works out the days that the file of `year` lacks through yesterday. They become those for which weather is wanted.
 DayRange FindMissingDays(int year);
 
-/// The days that `command` is to bring in; nothing if the user declines to overwrite weather that is up to date.
+/// The days that `command` is to bring in; nothing if the user declines to overwrite weather that is up to date, or has
+/// been told that the year has no day yet. Appending begins with last year's days where this year has none and last
+/// year's file ends early.
 std::optional<DayRange> ChooseRange(Ask& ask, WeatherCommand command);
 
 /// The same where the user has named the days. They become those for which weather is wanted.
 void TakeRange(const DayRange& range);
 
+/// What is done about days of the range that an import leaves open.
+enum class OpenDays {
+    Tell,   ///< the user is told which
+    Offer,  ///< and may have default weather there
+};
+
 /// Imports `range` from the text that is here: tests for it, asks about days that it lacks, imports, and raises the
 /// last day with weather.
-CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range);
+CommandReport ImportRange(Ask& ask, WeatherCommand command, const DayRange& range, OpenDays openDays = OpenDays::Tell);
 
 /// Fetches the text of the station in work and a year and stores it. False after the user has been told why not.
 using Download = std::function<bool(int year)>;
@@ -78,13 +86,15 @@ using Download = std::function<bool(int year)>;
 /// Gets the text of the first year of `range` by `download` and imports the range; nothing if it can't be had. A text
 /// that the import can't use doesn't stay in the place of an earlier one.
 std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, const DayRange& range,
-                                           const Download& download);
+                                           const Download& download, OpenDays openDays = OpenDays::Tell);
 
-/// Range, download and import of a menu command.
-CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download);
+/// Range, download and import of a menu command. Days of two years come from the texts of both.
+CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download,
+                           OpenDays openDays = OpenDays::Tell);
 
 /// The whole menu command: the same, and the catch-up of the station's fields.
-CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download);
+CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download,
+                           OpenDays openDays = OpenDays::Tell);
 
 /// Writes default weather for `range` and raises the last day with weather.
 void BringDefaultWeather(const DayRange& range);

@@ -62,7 +62,12 @@ std::optional<DayRange> RangeFrom(Session& session, const std::string& from, con
 
 /// The days that an import is to bring in; nothing after a message or a question that was answered no.
 std::optional<DayRange> RangeOfImport(Session& session, const ImportOptions& options) {
-    if (!options.From || !options.To) return ChooseRange(session.Outside, WeatherCommand::Append);
+    if (!options.From || !options.To) {
+        std::optional<DayRange> range = ChooseRange(session.Outside, WeatherCommand::Append);
+        // One text has the days of one year.
+        if (range) range->From = std::max(range->From, JulianFromDate(1, 1, YearOf(range->To)));
+        return range;
+    }
     const std::optional<DayRange> range = RangeFrom(session, *options.From, *options.To);
     if (range) TakeRange(*range);
     return range;

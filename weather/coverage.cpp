@@ -47,6 +47,18 @@ Coverage FindCoverage(Ask& ask, int startYear) {
     return coverage;
 }
 
+JulianValue WeatherReaches(const DayRange& range) {
+    JulianValue day = range.From;
+    for (int year = YearOf(day); day <= range.To; ++year) {
+        const WeatherFile file(State.StationCode, year);
+        for (; day <= range.To && YearOf(day) == year; ++day) {
+            const int dayOfYear = DayOfYearFromJulian(day).DayOfYear;
+            if (file.Day(dayOfYear).DayOfYear != dayOfYear) return day - 1;
+        }
+    }
+    return range.To;
+}
+
 void WantWeather(const DayRange& range) {
     State.WeatherNeedFrom = range.From;
     State.WeatherNeedTo = range.To;

@@ -26,6 +26,10 @@ struct Coverage {
 /// `WeatherNeedTo` what is needed, and `DownloadFailed` is true where the region is missing.
 Coverage FindCoverage(Ask& ask, int startYear);
 
+/// Last day of `range` before the first one that the files of the station in work lack; the day before the range if
+/// they lack its first.
+JulianValue WeatherReaches(const DayRange& range);
+
 /// Puts the days for which weather is wanted into the state, as `WeatherNeedFrom` and `WeatherNeedTo`.
 void WantWeather(const DayRange& range);
 

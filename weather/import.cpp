@@ -118,9 +118,14 @@ class Importer {
             for (int dayOfYear = std::max(line_->DayOfYear + 1, firstWanted); dayOfYear <= place_.DayOfYear;
                  ++dayOfYear)
                 PutDefault(dayOfYear);
+            if (day_ < range_.To) outcome_.EndedBefore = day_ + 1;
             return false;
         }
-        if (line_->DayOfYear == place_.DayOfYear && line_->Bad) return false;
+        if (line_->DayOfYear == place_.DayOfYear && line_->Bad) {
+            outcome_.EndedBefore = day_;
+            outcome_.EndedByMissing = true;
+            return false;
+        }
         for (; place_.DayOfYear < line_->DayOfYear; ++place_.DayOfYear, ++day_) PutDefault(place_.DayOfYear);
         file_.Put(place_.DayOfYear, day);
         if (line_->WindMissing && !line_->Bad) outcome_.WindlessDays.push_back(day_);

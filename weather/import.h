@@ -25,6 +25,8 @@ struct ImportWording {
 
 struct ImportOutcome {
     bool Imported = false;                  ///< false: refused or nothing usable; the user has been told
+    JulianValue EndedBefore = 0;            ///< first day of the range that was not taken; 0: all were
+    bool EndedByMissing = false;            ///< that day has a line, which lacks a value
     std::vector<JulianValue> WindlessDays;  ///< imported although their wind was not measured
     WeatherDay LastDay;                     ///< the last line looked at
 };

@@ -14,11 +14,12 @@ using testing::ElementsAre;
 using enum WeatherCommand;
 
 struct WeatherCommands : CatchUpTest {
-    CommandReport Bring(WeatherCommand command, const std::string& text) {
-        return BringWeather(User, command, [&](int year) {
+    CommandReport Bring(WeatherCommand command, const std::string& text, OpenDays openDays = OpenDays::Tell) {
+        const auto store = [&](int year) {
             StoreNetworkText(year, text);
             return true;
-        });
+        };
+        return BringWeather(User, command, store, openDays);
     }
 };
 
@@ -46,6 +47,55 @@ TEST_F(WeatherCommands, EndYesterdayAndAskBeforeTheyOverwrite) {
         EXPECT_EQ(report.Ending, range.From > 195 ? CommandEnding::Declined : CommandEnding::Done);
     }
     EXPECT_EQ(Directory.Raw("kesta.03"), Directory.Raw("0603rd.txt"));
+}
+
+TEST_F(WeatherCommands, BringTheLastDaysOfTheOldYearFromItsOwnText) {
+    const auto bring = [&](JulianValue today) {
+        User.Asked.clear();
+        User.Told.clear();
+        State.TodayJulian = User.Today = today;
+        return BringWeather(User, Append, [&](int year) {
+            const std::string of = std::to_string(year);
+            std::string text;
+            for (int day = 1; day <= (year == 2003 ? 365 : 2); ++day) text += ANetworkLine(day).Year(of);
+            StoreNetworkText(year, text);
+            return true;
+        });
+    };
+    const JulianValue newYear = JulianFromDate(1, 1, 2004);
+    AWeatherYear("06", 2003).Through(364).Store();
+    EXPECT_EQ(bring(newYear).Range, (DayRange{newYear - 1, newYear - 1}));
+    EXPECT_EQ(SourceOf(365), "kesta");
+    EXPECT_EQ(bring(newYear).Ending, CommandEnding::Declined);  // no day is missing
+    EXPECT_THAT(User.Texts(), ElementsAre("There is no weather of 2004 to bring in yet."));
+    AWeatherYear("06", 2003).Through(363).Store();
+    const CommandReport report = bring(newYear + 2);
+    EXPECT_EQ(report.Status, "Weather file updated from KESTA between 12-30-03 and 01-02-04");
+    EXPECT_EQ(SourceOf(364) + SourceOf(365), "kestakesta");
+    EXPECT_EQ(WeatherFile("06", 2004).Days(), 2);
+    EXPECT_TRUE(User.Told.empty());
+}
+
+TEST_F(WeatherCommands, SayWhereAnImportHasEndedEarly) {
+    // Day 192, 11 July, lacks a value; the text of the second case ends on it and one default day follows.
+    const std::string bad = NetworkDays(1, 191) + ANetworkLine(192).Bad() + NetworkDays(193, 195);
+    for (const auto& [text, told] : {std::pair<std::string, const char*>{
+                                         bad,
+                                         "The import has ended before 07-11-03: the text lacks a value of that day. "
+                                         "Weather is there through 07-10-03."},
+                                     {NetworkDays(1, 192),
+                                      "The import has ended before 07-13-03: the text has no line for it. "
+                                      "Weather is there through 07-12-03."}}) {
+        AWeatherYear("06", 2003).Through(190).Store();
+        User.OtherAnswer = true;
+        User.Told.clear();
+        Bring(Append, text);
+        EXPECT_THAT(User.Texts(), ElementsAre(testing::StartsWith(told)));
+        EXPECT_LT(WeatherFile("06", 2003).Days(), 195);
+        Bring(Append, text, OpenDays::Offer);
+        EXPECT_EQ(WeatherFile("06", 2003).Days(), 195);
+        EXPECT_EQ(User.Told.size(), 1U);
+    }
 }
 
 TEST_F(WeatherCommands, AskAboutDaysThatTheTextLacks) {

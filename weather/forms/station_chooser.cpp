@@ -43,7 +43,7 @@ enum class YearEnding {
 
 YearEnding BringYearFromNetwork(const DayRange& range) {
     State.WeatherYearSuffix = YearSuffix(YearOf(range.From));
-    const auto report = ImportFetched(TheScreen(), WeatherCommand::Append, range, DownloadText);
+    const auto report = ImportFetched(TheScreen(), WeatherCommand::Append, range, DownloadText, OpenDays::Offer);
     if (!report) return YearEnding::Failed;
     switch (report->Ending) {
         case CommandEnding::Done: return YearEnding::Brought;

@@ -59,8 +59,8 @@ void ShowReport(frmWeather& form, const CommandReport& report) {
 /// is here otherwise, for the chooser's range and without a question about it; overwriting is what it always is.
 CommandReport BringForChooser(WeatherCommand command, const DayRange& wanted) {
     if (WeatherCoefficientsOf(RegionOfChosenStation(State.StationCode)))
-        return command == WeatherCommand::Append ? ImportRange(TheScreen(), command, wanted)
-                                                 : FetchWeather(TheScreen(), command, DownloadText);
+        return command == WeatherCommand::Append ? ImportRange(TheScreen(), command, wanted, OpenDays::Offer)
+                                                 : FetchWeather(TheScreen(), command, DownloadText, OpenDays::Offer);
     // The user has picked a station without default weather: its gaps must not be filled with a foreign one's.
     TellDownloadFailed(TheScreen());
     CommandReport report;
@@ -71,7 +71,7 @@ CommandReport BringForChooser(WeatherCommand command, const DayRange& wanted) {
 void BringFromNetwork(frmWeather& form, WeatherCommand command) {
     form.lblUpdate.Visible = false;
     ShowReport(form, ChooserHasCalled() ? BringForChooser(command, form.Wanted)
-                                        : BringWeather(TheScreen(), command, DownloadText));
+                                        : BringWeather(TheScreen(), command, DownloadText, OpenDays::Offer));
 }
 
 /// False if the user wants to keep the measured days that default weather of `range` would replace.
