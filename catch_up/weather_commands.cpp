@@ -129,8 +129,8 @@ std::string FieldsUpdatedText(int fields) { return "Fields updated: " + Masked(s
 
 std::string NetworkUrl(int year) { return State.BaseUrl + NetworkFileName(year); }
 
-void TellDownloadError(Ask& ask, const HttpReply& reply) {
-    ask.Tell(fmt::format("{}: {}", reply.Code, reply.Text), "Download Error");
+void TellDownloadError(Ask& ask, const HttpReply& reply, std::string_view advice) {
+    ask.Tell(fmt::format("{}: {}{}{}", reply.Code, reply.Text, advice.empty() ? "" : "\n\n", advice), "Download Error");
 }
 
 void StoreNetworkText(int year, std::string_view body) {

@@ -52,8 +52,8 @@ std::string FieldsUpdatedText(int fields);
 /// Where the text of the station in work and `year` is on the network: "http://kesta.example/kesta/data/0603rd.txt".
 std::string NetworkUrl(int year);
 
-/// Tells why a request to the network has failed.
-void TellDownloadError(Ask& ask, const HttpReply& reply);
+/// Tells why a request to the network has failed, and below it `advice`, if there is any.
+void TellDownloadError(Ask& ask, const HttpReply& reply, std::string_view advice = {});
 
 /// Keeps a text that has been fetched, under its remote name and as the text of `year` to import. RunTimeFailure if the
 /// disk refuses; then both are as before.

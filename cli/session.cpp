@@ -13,6 +13,7 @@
 #include "core/state.h"
 #include "shell/data_search.h"
 #include "weather/coverage.h"
+#include "weather/network_address.h"
 
 namespace veraqua {
 
@@ -48,7 +49,7 @@ void Session::StartSystem() {
     State.StartDate = Outside.Now();
     State.EnglishUnits = Options.EnglishUnits;
     TakeNetworkOfUser();
-    if (!Options.BaseUrl.empty()) State.BaseUrl = WithSlash(Options.BaseUrl);
+    if (!Options.BaseUrl.empty()) UseNetwork(Options.BaseUrl);
 }
 
 std::optional<JulianValue> Session::DateFrom(std::string text) {

@@ -4,14 +4,12 @@
 #include <cstdlib>
 
 #include "core/base/text.h"
-#include "core/state.h"
 
 namespace veraqua {
 
 namespace {
 
 constexpr std::string_view ManualFile = "VERAGUIDE.doc";
-constexpr std::string_view NetworkFile = "network.txt";
 
 std::string Environment(const char* name) {
     const char* value = std::getenv(name);
@@ -52,14 +50,6 @@ std::optional<std::string> ManualPath() {
 std::string WithSlash(std::string url) {
     if (!url.ends_with('/')) url += '/';
     return url;
-}
-
-void TakeNetworkOfUser() {
-    const auto bytes = files::Read(NetworkFile);
-    if (!bytes) return;
-    const std::string_view line = std::string_view(*bytes).substr(0, bytes->find_first_of("\r\n"));
-    const std::string url = Utf8FromLatin1(Trimmed(line));
-    if (!url.empty()) State.BaseUrl = WithSlash(url);
 }
 
 }  // namespace veraqua

@@ -29,7 +29,4 @@ std::string WithSlash(std::string url);
 /// The path of the user's manual in the open data directory, in the spelling that it has on disk.
 std::optional<std::string> ManualPath();
 
-/// Takes `BaseUrl` from the first line of network.txt in the open data directory, if it has one.
-void TakeNetworkOfUser();
-
 }  // namespace veraqua

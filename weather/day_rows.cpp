@@ -1,5 +1,7 @@
 #include "weather/day_rows.h"
 
+#include <algorithm>
+
 #include "core/base/numbers.h"
 #include "core/base/units.h"
 #include "weather/network_text.h"
@@ -62,6 +64,23 @@ constexpr std::array Descriptions{
 // clang-format on
 static_assert(Descriptions.size() == AllDayRows.size());
 
+/// Whether the number bears the mark of a missing measurement, as the import stores it. The ratio is never measured.
+bool IsMarked(const WeatherDay& day, DayRow row) {
+    switch (row) {
+        case DayRow::TempMax: return day.TempMax == MissingDayMark;
+        case DayRow::TempMin: return day.TempMin == MissingMeasurement;
+        case DayRow::HumidityMax: return day.HumidityMax == MissingMeasurement;
+        case DayRow::HumidityMin: return day.HumidityMin == MissingMeasurement;
+        case DayRow::Wind: return day.WindRun == WindRunOf(MissingMeasurement);
+        case DayRow::DayNightRatio: return false;
+        case DayRow::Radiation: return day.SolarRadiation == RadiationOf(MissingMeasurement);
+        case DayRow::ReferenceET:
+            return std::ranges::any_of(
+                AllDayRows, [&day](DayRow other) { return other != DayRow::ReferenceET && IsMarked(day, other); });
+    }
+    return false;
+}
+
 }  // namespace
 
 std::string_view LabelOf(DayRow row, bool english) {
@@ -76,6 +95,11 @@ std::string TextOf(const WeatherDay& day, DayRow row, bool english, std::string_
     // A number that is shown as it is stored is rounded on the decimal form of the single.
     if (unit == AsStored) return Masked(stored, mask);
     return Masked(static_cast<double>(stored) * unit.Multiplier / unit.Divisor + unit.Zero, mask);
+}
+
+std::string TextOrMissing(const WeatherDay& day, DayRow row, bool english, std::string_view mask,
+                          std::string_view missing) {
+    return IsMarked(day, row) ? std::string(missing) : TextOf(day, row, english, mask);
 }
 
 void Enter(WeatherDay& day, DayRow row, double entered, bool english) {

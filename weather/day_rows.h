@@ -25,6 +25,11 @@ std::string_view LabelOf(DayRow row, bool english);
 /// The number by `mask`, in these units.
 std::string TextOf(const WeatherDay& day, DayRow row, bool english, std::string_view mask);
 
+/// The same for a window. A number that was not measured, and the reference ET that came of it, is `missing` there, not
+/// the mark that stands for it.
+std::string TextOrMissing(const WeatherDay& day, DayRow row, bool english, std::string_view mask,
+                          std::string_view missing);
+
 /// Puts into `day` what the user has entered in these units. RunTimeFailure if it doesn't fit a single.
 void Enter(WeatherDay& day, DayRow row, double entered, bool english);
 

@@ -27,9 +27,9 @@ WeatherDay DayOf(const NetworkLine& line) {
     day.TempMin = line.TempMin;
     day.HumidityMax = line.HumidityMax;
     day.HumidityMin = line.HumidityMin;
-    day.WindRun = ToSingle(line.Wind * KilometresPerDay * WindHeightFactor, "the wind run");
+    day.WindRun = WindRunOf(line.Wind);
     day.DayNightRatio = DefaultDayNightRatio(State.WeatherCoeff, line.DayOfYear);
-    day.SolarRadiation = ToSingle(line.Radiation * LangleysPerMegajoule, "the solar radiation");
+    day.SolarRadiation = RadiationOf(line.Radiation);
     day.Source = MeasuredSource;
     day.ReferenceET = ReferenceEvapotranspiration(day);
     return day;

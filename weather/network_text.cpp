@@ -84,6 +84,10 @@ NetworkLine LineOf(std::string_view text, int daysInYear) {
 
 }  // namespace
 
+float WindRunOf(float wind) { return ToSingle(wind * KilometresPerDay * WindHeightFactor, "the wind run"); }
+
+float RadiationOf(float radiation) { return ToSingle(radiation * LangleysPerMegajoule, "the solar radiation"); }
+
 std::optional<NetworkLine> NetworkText::Next() {
     while (!rest_.empty()) {
         const std::string_view line = TakeLine(rest_);

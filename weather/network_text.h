@@ -22,6 +22,11 @@ constexpr double WindHeightFactor = 0.93;
 constexpr double KilometresPerDay = 86.4;       ///< in one metre per second
 constexpr double LangleysPerMegajoule = 23.89;  ///< per square metre
 
+/// What the wind and the radiation of a line are in a day of weather: km per day at 2 m, langleys. RunTimeFailure where
+/// that doesn't fit a single.
+float WindRunOf(float wind);
+float RadiationOf(float radiation);
+
 /// One line, as it stands.
 struct NetworkLine {
     std::string_view Text;  ///< the whole line

@@ -15,6 +15,7 @@
 #include "screen/screen.h"
 #include "shell/data_search.h"
 #include "shell/forms/configuration.h"
+#include "weather/network_address.h"
 
 namespace veraqua {
 

@@ -298,7 +298,7 @@ TEST_F(StoriesTest, ADownloadThatTheNetworkLeavesHangingIsCancelledAtOnce) {
     Today();
     QTcpServer silent;
     silent.listen(QHostAddress::LocalHost);
-    State.BaseUrl = "http://127.0.0.1:" + std::to_string(silent.serverPort()) + "/";
+    files::Write("network.txt", "http://127.0.0.1:" + std::to_string(silent.serverPort()));
     Click(FormName::frmVeraqua, "cmdWeather");
     WhenShown[FormName::frmDownload] = [this] {
         EXPECT_FALSE(The(FormName::frmDownload, "cmd_OK").isEnabled());

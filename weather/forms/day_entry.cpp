@@ -71,7 +71,7 @@ void PrepareFile() {
 
 void ShowReferenceET(frmWeather& form) {
     form.lbl_az[IndexOf(DayRow::ReferenceET)].Caption =
-        TextOf(form.Entered, DayRow::ReferenceET, State.EnglishUnits, Mask);
+        TextOrMissing(form.Entered, DayRow::ReferenceET, State.EnglishUnits, Mask, "missing");
 }
 
 void ShowBoxes(frmWeather& form) {
@@ -80,13 +80,47 @@ void ShowBoxes(frmWeather& form) {
         form.lbl_d[i].Caption = LabelOf(row, State.EnglishUnits);
         form.lbl_d[i].Visible = true;
         if (i >= form.txt_w.size()) continue;
-        form.txt_w[i] = TextBox(TextOf(form.Entered, row, State.EnglishUnits, Mask));
+        form.txt_w[i] = TextBox(TextOrMissing(form.Entered, row, State.EnglishUnits, Mask, ""));
     }
     ShowReferenceET(form);
     form.lbl_az.back().Visible = true;
     form.lbl_kesta.Visible = true;
     form.Cmd_Exit.Visible = false;
     form.cmd_OK.Visible = true;
+}
+
+/// The day that is typed, if it may be entered; 0, after the user has been told, if not.
+JulianValue EntryDayTyped(frmWeather& form) {
+    const JulianValue day = TypedDay(form.txtDate);
+    if (day <= State.TodayJulian - 1 && day >= FirstEntryDay()) return day;
+    TheScreen().Tell(
+        "Select a date BETWEEN " + JulianToShortText(FirstEntryDay()) + " and " + JulianToShortText(State.TodayJulian),
+        "Date Input Error");
+    Focus(form.txtDate);
+    return 0;
+}
+
+/// Takes `day` for the one that is being entered, with the weather that it has.
+void TakeDay(frmWeather& form, JulianValue day) {
+    form.EntryDay = day;
+    const DayInYear place = DayOfYearFromJulian(day);
+    form.Entered = WeatherFile(State.StationCode, place.Year).Day(place.DayOfYear);
+}
+
+/// Where the date has been changed since the numbers came up, asks for which of the two days they are. False, after the
+/// user has been told, if it is no day to enter.
+bool SettleDay(frmWeather& form) {
+    if (ReadTypedDate(Trimmed(form.txtDate.Text)).Julian == form.EntryDay) return true;
+    const JulianValue typed = EntryDayTyped(form);
+    if (typed == 0) return false;
+    const std::string shown = JulianToShortText(form.EntryDay);
+    const std::string changed = JulianToShortText(typed);
+    if (TheScreen().YesNo(fmt::format("The date has been changed to {}. The numbers came up for {}.\n"
+                                      "Do you want to store them for {}? \"No\" stores them for {}.",
+                                      changed, shown, changed, shown),
+                          "Weather Info", Icon::Question, true))
+        TakeDay(form, typed);
+    return true;
 }
 
 double ValueOf(const TextBox& box) { return Numeric(box.Text).value_or(0); }
@@ -117,17 +151,9 @@ void Cal1_Click(frmWeather& form) {
 }
 
 void cmd_DateOK_Click(frmWeather& form) {
-    const JulianValue day = TypedDay(form.txtDate);
-    if (day > State.TodayJulian - 1 || day < FirstEntryDay()) {
-        TheScreen().Tell("Select a date BETWEEN " + JulianToShortText(FirstEntryDay()) + " and " +
-                             JulianToShortText(State.TodayJulian),
-                         "Date Input Error");
-        Focus(form.txtDate);
-        return;
-    }
-    form.EntryDay = day;
-    const DayInYear place = DayOfYearFromJulian(day);
-    form.Entered = WeatherFile(State.StationCode, place.Year).Day(place.DayOfYear);
+    const JulianValue day = EntryDayTyped(form);
+    if (day == 0) return;
+    TakeDay(form, day);
     ShowBoxes(form);
 }
 
@@ -150,7 +176,7 @@ bool txt_w_Leave(frmWeather& form, int index) {
 }
 
 void cmd_OK_Click(frmWeather& form) {
-    if (!LeaveChecksPass(FormName::frmWeather)) return;
+    if (!LeaveChecksPass(FormName::frmWeather) || !SettleDay(form)) return;
     const DayInYear place = DayOfYearFromJulian(form.EntryDay);
     WeatherDay day = form.Entered;
     day.DayOfYear = static_cast<std::int16_t>(place.DayOfYear);

@@ -3,6 +3,7 @@
 #include "catch_up/weather_commands.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "weather/network_address.h"
 
 namespace veraqua {
 
@@ -37,7 +38,7 @@ void Follow(frmDownload& form, const HttpProgress& progress) {
     if (progress.State <= HttpState::Connecting) form.lblResult.Caption = "Resolving IP/Connecting...";
     if (progress.State == HttpState::Connected) form.lblResult.Caption = "Connected...";
     if (progress.State == HttpState::Error) {
-        TellDownloadError(TheScreen(), progress.Reply);
+        TellDownloadError(TheScreen(), progress.Reply, NetworkAdvice(form.txtURL.Text));
         Finish(form, false);
     }
     if (progress.State == HttpState::Complete) TakeText(form, progress.Reply.Body);
@@ -46,6 +47,7 @@ void Follow(frmDownload& form, const HttpProgress& progress) {
 void Load(frmDownload& form) {
     form.lblWarning.Visible = false;
     form.cmd_OK.Enabled = false;
+    TakeNetworkOfUser();  // the user may have mended it since the last failure
     form.txtURL.Text = NetworkUrl(form.Year);
     form.txtURL.ReadOnly = true;
     TheScreen().StartGet(form.txtURL.Text, [&form](const HttpProgress& progress) { Follow(form, progress); });

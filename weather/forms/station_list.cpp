@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "core/base/numbers.h"
+#include "core/directory.h"
 #include "core/state.h"
 #include "screen/field_caption.h"
 #include "screen/screen.h"
@@ -18,10 +20,13 @@ constexpr std::array OffLinePositions{16, 17, 24};
 
 }  // namespace
 
-void FillStations(ComboBox& list) {
+int FillStations(ComboBox& list) {
     list.Clear();
     int number = 0;
     for (const std::string& name : State.DefaultStations) list.Add(name, ++number);
+    const int inWork = WholeNumber(State.StationCode).value_or(0);
+    list.Select(IsStation(inWork) ? inWork - 1 : -1);
+    return list.Index;
 }
 
 bool IsOffLine(int position) { return std::ranges::find(OffLinePositions, position) != OffLinePositions.end(); }

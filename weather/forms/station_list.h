@@ -9,8 +9,9 @@
 /// The stations as the weather windows offer them.
 namespace veraqua {
 
-/// The names of weathdef.dat in their order, each row standing for its station's number.
-void FillStations(ComboBox& list);
+/// The names of weathdef.dat in their order, each row standing for its station's number. The list opens at the station
+/// in work, which isn't a pick: its row is returned, -1 without a station.
+int FillStations(ComboBox& list);
 
 /// Whether row `position`, from 0, is a station that the weather windows refuse as off-line. The new-field window
 /// refuses others: it counts the rows of its list in its own way.

@@ -30,7 +30,7 @@ constexpr std::string_view MainMenu = "frmVeraqua";
 void ShowDay(frmWeather& form, const WeatherDay& day, JulianValue last) {
     for (const DayRow row : AllDayRows) {
         form.lbl_d[IndexOf(row)].Caption = LabelOf(row, State.EnglishUnits);
-        form.lbl_az[IndexOf(row)].Caption = TextOf(day, row, State.EnglishUnits, "0.0");
+        form.lbl_az[IndexOf(row)].Caption = TextOrMissing(day, row, State.EnglishUnits, "0.0", "missing");
     }
     form.lbl_info[0].Caption = "Weather data for Station #" + State.StationCode + " on " + JulianToShortText(last);
     ShowPanels(form);
@@ -134,7 +134,10 @@ bool ComboKESTA_Click(frmWeather& form) {
 }
 
 /// A row that was only touched counts as picked when the user goes on.
-bool ComboKESTA_Leave(frmWeather& form) { return form.ComboKESTA.Selected() == nullptr || ComboKESTA_Click(form); }
+bool ComboKESTA_Leave(frmWeather& form) {
+    const bool isTouched = form.ComboKESTA.Selected() != nullptr && form.ComboKESTA.Index != form.OpenedAt;
+    return !isTouched || ComboKESTA_Click(form);
+}
 
 void mnu_view_Click(frmWeather& form) {
     const InWork before;
@@ -223,7 +226,7 @@ void mnu_KESTAloc_Click(frmWeather& form) {
     EnableMenus(form);
     ClearPanels(form);
     form.Cmd_Exit.Visible = true;
-    FillStations(form.ComboKESTA);
+    form.OpenedAt = FillStations(form.ComboKESTA);
     form.lblKESTA.Visible = true;
     form.ComboKESTA.Visible = true;
 }

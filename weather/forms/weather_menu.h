@@ -50,6 +50,7 @@ struct frmWeather : Form {
     MenuItem mnu_return{"<-GO BACK"};
 
     // What the screen remembers
+    int OpenedAt = -1;         ///< row of the station that the list opened at
     DayRange Wanted;           ///< by the station chooser, if it has called
     JulianValue EntryDay = 0;  ///< the day that is being entered
     WeatherDay Entered;        ///< its weather, as read

@@ -102,7 +102,7 @@ std::optional<Listing> ListYear(const frmViewWeather& form, const Spacing& spaci
 }
 
 void ShowStations(frmViewWeather& form) {
-    FillStations(form.ComboKESTA);
+    form.OpenedAt = FillStations(form.ComboKESTA);
     form.lblKESTA.Visible = true;
     form.ComboKESTA.Visible = true;
 }
@@ -116,7 +116,10 @@ bool ComboKESTA_Click(frmViewWeather& form) {
 }
 
 /// A row that was only touched counts as picked when the user goes on.
-bool ComboKESTA_Leave(frmViewWeather& form) { return form.ComboKESTA.Selected() == nullptr || ComboKESTA_Click(form); }
+bool ComboKESTA_Leave(frmViewWeather& form) {
+    const bool isTouched = form.ComboKESTA.Selected() != nullptr && form.ComboKESTA.Index != form.OpenedAt;
+    return !isTouched || ComboKESTA_Click(form);
+}
 
 void ShowUnits(frmViewWeather& form) {
     const bool english = State.EnglishUnits;

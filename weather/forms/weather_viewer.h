@@ -38,6 +38,8 @@ struct frmViewWeather : Form {
     Button cmdPrintAll{"Print Weather File"};
     Button Cmd_Exit{"<-GO BACK"};
     StatusBar StatusBar1;
+
+    int OpenedAt = -1;  ///< row of the station that the list opened at
 };
 
 FormTable TableOf(frmViewWeather& form);

@@ -91,6 +91,40 @@ TEST_F(DayEntry, StoresTheDayInMetricUnitsAndKeepsItsSource) {
     }
 }
 
+TEST_F(DayEntry, ShowsNoMarkOfAMissingMeasurement) {
+    // An imported day that lacks the two measurements, as the import leaves it: 999 MJ are 999 * 23.89 langleys.
+    AWeatherYear("06", 2003)
+        .Through(195)
+        .On(100, AWeatherDay().Temperature(12, MissingDayMark).Radiation(23866.11F))
+        .Store();
+    Begin().Type("txtDate", "04-10-2003").Click("cmd_DateOK");
+    EXPECT_EQ(Form.txt_w[0].Text + Form.txt_w[6].Text, "");
+    EXPECT_EQ(Form.txt_w[1].Text + " " + Form.lbl_az[7].Caption, "53.6 missing");
+    At(FormName::frmWeather).Type("txt_w(0)", "77").Click("cmd_OK");
+    EXPECT_EQ(User.LastSaid(), "Solar Radiation Error: Please input a value between 0 and 900");
+    At(FormName::frmWeather).Type("txt_w(6)", "500").Click("cmd_OK");
+    EXPECT_FLOAT_EQ(WeatherFile("06", 2003).Day(100).SolarRadiation, 500);
+}
+
+TEST_F(DayEntry, AsksForWhichDayTheNumbersAreWhereItsDateWasChanged) {
+    for (const bool isForNewDate : {true, false}) {
+        AWeatherYear("06", 2003).Through(195).On(101, AWeatherDay().From("default")).Store();
+        User.Answers = {isForNewDate};
+        Begin().Type("txtDate", "04-10-2003").Click("cmd_DateOK").Type("txt_w(0)", "77").Type("txtDate", "7-15-2003");
+        At(FormName::frmWeather).Click("cmd_OK");
+        EXPECT_EQ(User.LastSaid(), "Date Input Error: Select a date BETWEEN 01-01-02 and 07-15-03");
+        At(FormName::frmWeather).Type("txtDate", "4/11/2003").Click("cmd_OK");
+        EXPECT_EQ(User.LastAsked(),
+                  "Weather Info: The date has been changed to 04-11-03. The numbers came up for 04-10-03.\n"
+                  "Do you want to store them for 04-11-03? \"No\" stores them for 04-10-03.");
+        const WeatherFile file("06", 2003);
+        EXPECT_EQ(file.Day(isForNewDate ? 101 : 100).TempMax, 25);
+        EXPECT_NE(file.Day(isForNewDate ? 100 : 101).TempMax, 25);
+        EXPECT_EQ(SourceOf(100) + SourceOf(101), "kestadefault");
+        Unload(FormName::frmWeather);
+    }
+}
+
 TEST_F(DayEntry, FillsTheFileThroughYesterdayButNeverOverADayEntered) {
     for (const bool isStationNew : {false, true}) {  // of a station just chosen the last day isn't known
         AWeatherYear("06", 2003).Through(190).Store();

@@ -50,14 +50,28 @@ TEST_F(WeatherMenu, ADownloadThatEndsBadlySavesNothing) {
         EXPECT_EQ(Form.StatusBar1.Panels[0], "Weather files updated with DEFAULT Data between 01-01-03 and 07-14-03");
         User.Told.clear();
         if (diskRefuses) Serve("03", NetworkDays(1, 195));
-        if (diskRefuses) std::filesystem::create_directory(Directory.Path() + "kesta.03");
+        if (diskRefuses) std::filesystem::create_directory(Directory.Path() + "0603rd.txt");
         User.WhenShown(FormName::frmDownload, [] { At(FormName::frmDownload).Click("cmd_OK"); });
         At(FormName::frmWeather).Click("mnu_OverwriteWeather");
         EXPECT_EQ(User.LastSaid(), "DOWNLOAD FAILED: No weather data was saved, try loading default data");
-        EXPECT_EQ(User.Told.front().Text == "404: Not Found", User.Failures.empty());
-        EXPECT_FALSE(Form.lbl_az[0].Visible || Directory.Has("0603rd.txt"));
+        EXPECT_EQ(User.Told.front().Text.starts_with("404: Not Found\n\nkesta.example didn't give the file "
+                                                     "/kesta/data/0603rd.txt.\nLook whether"),
+                  User.Failures.empty());
+        EXPECT_FALSE(Form.lbl_az[0].Visible || Directory.Has("kesta.03"));
         EXPECT_EQ(SourceOf(195), "default");
     }
+}
+
+TEST_F(WeatherMenu, LooksForTheNetworksAddressBeforeEachDownload) {
+    User.WhenShown(FormName::frmDownload, [] { At(FormName::frmDownload).Click("cmd_OK"); });
+    Show(FormName::frmWeather);
+    for (const std::string address : {"http://moved.example/data", "", "http://again.example/"}) {
+        Directory.Put("network.txt", address + "\r\n");
+        At(FormName::frmWeather).Click("mnu_OverwriteWeather");
+    }
+    EXPECT_THAT(User.Fetched,
+                ElementsAre("http://moved.example/data/0603rd.txt", "http://kesta.example/kesta/data/0603rd.txt",
+                            "http://again.example/0603rd.txt"));
 }
 
 TEST_F(WeatherMenu, ACancelledDownloadIsSaidAndItsAnswerIsNotAwaited) {
@@ -158,7 +172,8 @@ struct Chooser : WeatherFormsTest {
 TEST_F(Chooser, OffersDefaultWeatherAfterADownloadThatFailed) {
     AWeatherYear("06", 2003).Through(190).Store();
     CheckWeather(User, 2003);
-    EXPECT_THAT(User.Texts(), ElementsAre("Weather data required from 07-10-03 to 07-14-03", "404: Not Found"));
+    EXPECT_THAT(User.Texts(),
+                ElementsAre("Weather data required from 07-10-03 to 07-14-03", testing::StartsWith("404: Not Found")));
     EXPECT_EQ(Seen, "Weather files updated with DEFAULT Data between 07-10-03 and 07-14-03");
     EXPECT_FALSE(State.DownloadFailed || IsLoaded(FormName::frmKESTA));
     EXPECT_EQ(State.StationCode, "06");
@@ -183,15 +198,15 @@ TEST_F(Chooser, OverwritesWithAFreshTextAndItsOwnWords) {
     Directory.Put("kesta.03", NetworkDays(1, 195));  // of an earlier day
     User.WhenShown(FormName::frmWeather, [] { At(FormName::frmWeather).Click("mnu_OverwriteWeather").Close(); });
     for (const bool foreign : {true, false}) {
-        Serve("03", foreign ? ANetworkLine(1).Station("8") : ANetworkLine(1) + ANetworkLine(2));
+        Serve("03", foreign ? ANetworkLine(1).Station("8") : NetworkDays(1, 195));
         User.Told.clear();
         User.Fetched.clear();
-        User.Answers = {true};  // default weather for the days that the text lacks
+        User.Answers = {true};  // goes on where the text lacks days
         State.CallerForm = "frmKESTA";
         ShowDefaultWeather({Yesterday, Yesterday});
         EXPECT_EQ(User.Fetched.size(), 1U);
         EXPECT_EQ(User.LastSaid(), foreign ? "Download Error: Wrong KESTA station downloaded.  Try again!" : "");
-        EXPECT_EQ(SourceOf(1) + SourceOf(3), foreign ? "defaultdefault" : "kestadefault");
+        EXPECT_EQ(SourceOf(1) + SourceOf(3), foreign ? "defaultdefault" : "kestakesta");
     }
 }
 
