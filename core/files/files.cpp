@@ -20,8 +20,6 @@
 
 namespace veraqua::files {
 
-namespace {
-
 /// A file as it was read; without contents it isn't there.
 struct SeenFile {
     std::string Spelling;
@@ -38,6 +36,8 @@ struct OpenDirectory {
     std::map<std::string, SeenFile, std::less<>> Seen;  ///< since the outermost set began, or the reading once
     bool ReadsOnce = false;
 };
+
+namespace {
 
 std::uint64_t& Commits() {
     static std::uint64_t commits = 0;
@@ -215,11 +215,25 @@ void Open(const std::string& path, Access access) {
         opened.Lock.Release();
     }
     Current() = std::move(opened);
+    ++Commits();
 }
 
 void Close() {
     assert(!Current() || Current()->Sets.empty());
     Current().reset();
+}
+
+SetAside::SetAside() {
+    if (!Current()) return;
+    assert(Current()->Sets.empty());
+    aside_ = std::make_unique<OpenDirectory>(std::move(*Current()));
+    Current().reset();
+}
+
+SetAside::~SetAside() {
+    if (kept_) return;
+    Close();
+    if (aside_) Current() = std::move(*aside_);
 }
 
 const std::string& DirectoryPath() {

@@ -28,6 +28,24 @@ void Open(const std::string& path, Access access);
 /// Gives the lock back and forgets the directory. Without an open directory it does nothing.
 void Close();
 
+struct OpenDirectory;
+
+/// Sets the open directory aside, with its lock, so that another one can be opened, which is another indeed. What is
+/// open at its end is closed, and the directory comes back; after `Keep` the other one stays and this one is closed.
+class SetAside {
+  public:
+    SetAside();
+    ~SetAside();
+    SetAside(const SetAside&) = delete;
+    SetAside& operator=(const SetAside&) = delete;
+
+    void Keep() { kept_ = true; }
+
+  private:
+    std::unique_ptr<OpenDirectory> aside_;
+    bool kept_ = false;
+};
+
 /// With a final "/". Empty when no directory is open.
 const std::string& DirectoryPath();
 
@@ -77,7 +95,8 @@ class ChangeSet {
     bool committed_ = false;
 };
 
-/// How many sets of changes this program has made true: what was read before holds as long as it stays the same.
+/// How often this program has opened a directory or made a set of changes true: what was read before holds as long as
+/// it stays the same.
 std::uint64_t ChangesMade();
 
 /// While it lives, a file is read from the disk once, across change sets too: for a deed in a directory whose lock this

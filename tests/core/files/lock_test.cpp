@@ -48,6 +48,27 @@ class OtherProgram {
     pid_t process_ = 0;
 };
 
+namespace {
+
+/// Whether another program could work in `path` now.
+bool IsFree(const std::string& path) {
+    const pid_t other = fork();
+    if (other == 0) {
+        Close();
+        try {
+            Open(path, Access::Write);
+        } catch (const Refusal&) {
+            _exit(1);
+        }
+        _exit(0);
+    }
+    int status = 1;
+    waitpid(other, &status, 0);
+    return status == 0;
+}
+
+}  // namespace
+
 TEST_F(FilesTest, ASecondProgramIsKeptOutUntilTheFirstOneDiesAndMayReadItsWholeJournal) {
     const Contents after{{"stat.dat", "new rows"}};
     OtherProgram other(Path());
@@ -70,6 +91,28 @@ TEST_F(FilesTest, ASecondProgramIsKeptOutUntilTheFirstOneDiesAndMayReadItsWholeJ
     Open(Path(), Access::Read);
     EXPECT_EQ(OnDisk(), after);       // with the lock free, a reader tidies up
     const OtherProgram next(Path());  // and holds nothing afterwards
+}
+
+TEST_F(FilesTest, ADirectorySetAsideKeepsItsLockUntilItIsGivenUp) {
+    const std::string other = Path() + "other/";
+    std::filesystem::create_directory(other);
+    Open(Path(), Access::Write);
+    {
+        const SetAside aside;
+        Open(other, Access::Write);
+        EXPECT_FALSE(IsFree(Path()));
+    }
+    EXPECT_EQ(DirectoryPath(), Path());
+    EXPECT_FALSE(IsFree(Path()));
+    EXPECT_TRUE(IsFree(other));
+    {
+        SetAside aside;
+        Open(other, Access::Write);
+        aside.Keep();
+    }
+    EXPECT_TRUE(IsFree(Path()));
+    EXPECT_FALSE(IsFree(other));
+    Close();
 }
 
 }  // namespace veraqua::files
