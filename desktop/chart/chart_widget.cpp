@@ -114,9 +114,11 @@ void ChartWidget::focusOutEvent(QFocusEvent* event) {
 
 void ChartWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    const bool isCompact = property("compact").toBool();  // its menu has the rest
+    for (QWidget* button : {wholeSeason_, save_}) button->setVisible(!isCompact);
     // Where it doesn't fit the hint stays away.
     const int buttons = wholeSeason_->sizeHint().width() + save_->sizeHint().width();
-    hint_->setVisible(width() > hint_->sizeHint().width() + buttons + 3 * layout()->spacing());
+    hint_->setVisible(!isCompact && width() > hint_->sizeHint().width() + buttons + 3 * layout()->spacing());
 }
 
 void ChartWidget::Save(ChartFormat format) {

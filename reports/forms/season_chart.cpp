@@ -1,6 +1,5 @@
 #include "reports/forms/season_chart.h"
 
-#include "core/field_file.h"
 #include "core/state.h"
 #include "reports/season_chart.h"
 #include "screen/field_caption.h"
@@ -18,10 +17,7 @@ void FillForm(frmSeasonChart& form) {
     if (State.CurrentField == 0) return Unload(FormName::frmSeasonChart);
     const std::optional<FieldFile> file = OpenField(TheScreen(), State.CurrentField);
     if (!file) return Unload(FormName::frmSeasonChart);
-    const StatRecord& row = State.Stat[State.CurrentField];
-    ChartContent chart = SeasonChart(*file, row, State.TodayJulian, State.EnglishUnits);
-    MarkDefaultWeather(chart, row.LastDay, DefaultDaysBefore(file->Header(), row.LastDay));
-    form.Chart1.Show(std::move(chart));
+    form.Chart1.Show(SeasonChartNow(*file, State.Stat[State.CurrentField]));
     ShowFieldIn(form.StatusBar1);
     form.Caption = FieldTitle();
     form.Shown = FieldShownNow();
@@ -33,6 +29,12 @@ void cmdPrint_Click(frmSeasonChart&) { PrintForm(FormName::frmSeasonChart); }
 void cmdExit_Click(frmSeasonChart&) { Unload(FormName::frmSeasonChart); }
 
 }  // namespace
+
+ChartContent SeasonChartNow(const FieldFile& file, const StatRecord& row) {
+    ChartContent chart = SeasonChart(file, row, State.TodayJulian, State.EnglishUnits);
+    MarkDefaultWeather(chart, row.LastDay, DefaultDaysBefore(file.Header(), row.LastDay));
+    return chart;
+}
 
 FormTable TableOf(frmSeasonChart& form) {
     FormFor table(form, FormName::frmSeasonChart, "frmSeasonChart");

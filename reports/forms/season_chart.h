@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/field_file.h"
 #include "reports/forms/shown_field.h"
 #include "screen/chart.h"
 #include "screen/form.h"
@@ -17,5 +18,8 @@ struct frmSeasonChart : Form {
 };
 
 FormTable TableOf(frmSeasonChart& form);
+
+/// The season of a field as of today, in the units of the user. RunTimeFailure as of `SeasonChart`.
+ChartContent SeasonChartNow(const FieldFile& file, const StatRecord& row);
 
 }  // namespace veraqua

@@ -89,7 +89,6 @@ void UnloadForm(frmCuts& form) {
     if (!form.Cancelled || !form.Recorded) return;
     const auto restored = RestoreCuttings(TheScreen(), form.CutCopy);
     if (restored.IsDone()) ShowChange(form, *restored);
-    ShowNext(The<frmField>());
 }
 
 }  // namespace

@@ -9,10 +9,10 @@
 #include "core/field_in_work.h"
 #include "core/state.h"
 #include "engine/season_run.h"
-#include "reports/prediction_text.h"
 #include "screen/field_caption.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "workbench/forms/field_now.h"
 #include "workbench/forms/harvest.h"
 #include "workbench/harvest.h"
 
@@ -115,7 +115,6 @@ void ComboField_Click(frmField& form) {
     FieldInfo(form);
     if (form.DeletePending) return mnuDelete_Click(form);
     RunIfBehind();
-    ShowNext(form);
 }
 
 void SelectField(frmField& form) {
@@ -161,19 +160,8 @@ void FieldInfo(frmField& form) {
     for (Label* label : {&form.lbl_selected, &form.lbl_more1, &form.lbl_more2}) label->Visible = true;
     ShowFieldIn(form.StatusBar1);
     form.Caption = FieldTitle();
-    ShowNext(form);
-}
-
-void ShowNext(frmField& form) {
-    if (!FieldIsChosen() || !form.lbl_ID.Visible) return;
-    const StatRecord& row = State.Stat[State.CurrentField];
-    const PredictionText next =
-        WaterPrediction(row, State.IsHay, State.TodayJulian, State.MadExceededDay, State.EnglishUnits);
-    form.lblNext.Caption = "Next irrigation:  " + next.Date;
-    if (row.NextIrrAmount > 0) form.lblNext.Caption += "   " + next.Amount;
-    form.lblNext.Background.reset();
-    if (next.Colour == PredictionColour::Red) form.lblNext.Background = colours::Red;
-    form.lblNext.Visible = true;
+    form.PictureChosen = false;
+    ShowFieldNow(form);
 }
 
 void ShowFieldData() { ShowFilled(FormName::frmFieldData); }

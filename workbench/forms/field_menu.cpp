@@ -1,5 +1,6 @@
 #include "workbench/forms/field_menu.h"
 
+#include <initializer_list>
 #include <variant>
 
 #include "core/state.h"
@@ -12,6 +13,7 @@
 #include "workbench/forms/adjustments.h"
 #include "workbench/forms/crop_choice.h"
 #include "workbench/forms/field_choice.h"
+#include "workbench/forms/field_now.h"
 #include "workbench/forms/harvest.h"
 
 namespace veraqua {
@@ -43,10 +45,9 @@ void ChangeTo(FormName form) {
 
 void cmd_Cancel_Click(frmField& form) { SelectNothing(form); }
 
-void MnuPred_Click(frmField& form) {
+void MnuPred_Click(frmField&) {
     if (!ExpectField()) return;
     UpdateField(TheScreen());
-    ShowNext(form);
     ShowFieldData();
 }
 
@@ -114,10 +115,15 @@ void mnuHarvested_Click(frmField&) {
     State.IsHay = isHay;
 }
 
-void mgeese1_Click(frmField& form) { ShowBackground(form, &form.Image1); }
-void mgeese2_Click(frmField& form) { ShowBackground(form, &form.Image2); }
-void mfield_Click(frmField& form) { ShowBackground(form, &form.Image3); }
-void mblank_Click(frmField& form) { ShowBackground(form, nullptr); }
+void ChooseBackground(frmField& form, const Image* picture) {
+    ShowBackground(form, picture);
+    form.PictureChosen = true;
+}
+
+void mgeese1_Click(frmField& form) { ChooseBackground(form, &form.Image1); }
+void mgeese2_Click(frmField& form) { ChooseBackground(form, &form.Image2); }
+void mfield_Click(frmField& form) { ChooseBackground(form, &form.Image3); }
+void mblank_Click(frmField& form) { ChooseBackground(form, nullptr); }
 
 // The table, group by group.
 
@@ -141,13 +147,20 @@ void AddFieldShown(MenuTable& table, frmField& form) {
     table.Add("lbl_crop", form.lbl_crop);
     table.Add("lbl_plantdate", form.lbl_plantdate);
     table.Add("lbl_weather", form.lbl_weather);
-    table.Add("lblNext", form.lblNext);
     table.Add("lbl_more1", form.lbl_more1);
     table.Add("lbl_more2", form.lbl_more2);
     table.Add("cmd_Summary", form.cmd_Summary);
     table.Add("cmdDetails", form.cmdDetails);
     table.Add("lblChange", form.lblChange);
     table.Add("lbl_wait", form.lbl_wait);
+}
+
+void AddFieldNow(MenuTable& table, frmField& form) {
+    table.Add("lblDepletion", form.lblDepletion);
+    table.Add("lblNext", form.lblNext);
+    table.Add("lblLastRain", form.lblLastRain);
+    table.Add("lblLastIrrigation", form.lblLastIrrigation);
+    table.Add("Chart1", form.Chart1);
 }
 
 void AddDepletionPanel(MenuTable& table, frmField& form) {
@@ -226,6 +239,9 @@ void AddOtherMenus(MenuTable& table, frmField& form) {
 
 /// Whether `form_clear` leaves a control alone.
 bool IsAlwaysThere(const frmField& form, const ControlEntry& entry) {
+    for (const Control* control : std::initializer_list<const Control*>{
+             &form.lblDepletion, &form.lblNext, &form.lblLastRain, &form.lblLastIrrigation, &form.Chart1})
+        if (&entry.Shared() == control) return true;  // as long as a field is in work
     return std::holds_alternative<MenuItem*>(entry.Where) || std::holds_alternative<Image*>(entry.Where) ||
            std::holds_alternative<StatusBar*>(entry.Where) || &entry.Shared() == &form.cmd_return;
 }
@@ -236,6 +252,7 @@ FormTable TableOf(frmField& form) {
     MenuTable table(form, FormName::frmField, "frmField");
     AddChoice(table, form);
     AddFieldShown(table, form);
+    AddFieldNow(table, form);
     AddDepletionPanel(table, form);
     AddMadPanel(table, form);
     AddEfficiencyPanel(table, form);
@@ -247,7 +264,7 @@ FormTable TableOf(frmField& form) {
     AddFieldMenus(table, form);
     AddReportMenus(table, form);
     AddOtherMenus(table, form);
-    table.Load(Load).Appear(ShowNext).Fill(SelectField).Close(Leave).Unload(Unload);
+    table.Load(Load).Appear(ShowFieldNow).Fill(SelectField).Follow(ShowFieldNow).Close(Leave).Unload(Unload);
     return table.Done();
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "reports/forms/shown_field.h"
 #include "screen/form.h"
 
 /// The field workbench: the hub of all that concerns one field. It picks or begins a field, and its menu leads to the
@@ -32,12 +33,18 @@ struct frmField : Form {
     Label lbl_crop;
     Label lbl_plantdate;
     Label lbl_weather;
-    Label lblNext;  ///< when to irrigate it next, and how much
     Label lbl_more1{"Click on Field Options|Details for comprehensive field data and predictions."};
     Label lbl_more2{"Click on other Field Options menu items for updating irrigation, cutting dates, etc."};
     Button cmd_Summary{"Field Summary"};
     Button cmdDetails{"Field Details"};
     Label lblChange;  ///< what the last adjustment did to the prediction
+
+    // How the field in work stands, whatever else is shown
+    Label lblDepletion;
+    Label lblNext;  ///< when to irrigate it next, and how much
+    Label lblLastRain;
+    Label lblLastIrrigation;
+    Chart Chart1;  ///< its season, in the place of the picture
 
     // Depletion
     Frame ShapeDepl;
@@ -113,6 +120,8 @@ struct frmField : Form {
     MenuItem mnuReturn{" <-GO BACK"};
 
     // What the workbench remembers
+    ShownField Shown;                   ///< what its state is shown of
+    bool PictureChosen = false;         ///< since the field was taken up, and so shown in the place of its season
     int CropPicked = 0;                 ///< row of the crop table, from 1; 0: none
     bool SoilPicked = false;            ///< a soil format has been picked
     bool DeletePending = false;         ///< the user was sent to pick the field to harvest
@@ -134,9 +143,6 @@ void ListFields(frmField& form);
 
 /// Shows the field in work on the labels, the status bar and the window's title.
 void FieldInfo(frmField& form);
-
-/// Shows what the row of the field in work predicts now, where the workbench shows that field.
-void ShowNext(frmField& form);
 
 /// Shows the summary of the field in work, without waiting for it.
 void ShowFieldData();

@@ -141,7 +141,6 @@ void UnloadForm(frmAddWater& form) {
     if (!form.Cancelled || !form.Recorded) return;
     const auto restored = RestoreWater(TheScreen(), form.AtOpening.Rain, form.AtOpening.Irrigation);
     if (restored.IsDone()) ShowChange(form, *restored);
-    ShowNext(The<frmField>());
 }
 
 void txtRainDate_Enter(frmAddWater& form) { Focus(form.txtRainfall); }

@@ -76,6 +76,33 @@ TEST_F(FieldMenuTest, APickForTheHarvestThatIsGivenUpHarvestsNothing) {
     EXPECT_EQ(State.CurrentField, 0);
 }
 
+TEST_F(FieldMenuTest, TheFieldInWorkShowsHowItStandsWhateverElseIsShown) {
+    Plant(AField()
+              .Content(67)  // of 140: a depletion of 52 %
+              .Days(IntoTheForecast)
+              .Rain(Today - 12, 13)
+              .Irrigation(Today - 3, 102)
+              .Irrigation(Today + 2, 50),  // after the day set back to
+          1);
+    Select(0);
+    EXPECT_EQ(Form.lblDepletion.Caption, "Depletion on 07-15-03:  52 %   MAD:  50 %");
+    EXPECT_EQ(Form.lblDepletion.Background, colours::Yellow);
+    EXPECT_EQ(Form.lblLastRain.Caption, "Last rain:  07-03-03   0.51 inches");
+    EXPECT_EQ(Form.lblLastIrrigation.Caption, "Last irrigation:  07-12-03   4.02 inches");
+    EXPECT_EQ(Form.Chart1.Title, "NORTH 40 - MAIZE GRAIN");
+    Menu.Click("mnuDepletion").Type("TxtNewDepl", "20").Click("cmdDeplOK");
+    EXPECT_THAT(Form.lblDepletion.Caption, testing::HasSubstr("  20 %"));
+    EXPECT_TRUE(Form.lblDepletion.Visible && Form.Chart1.Visible);
+    Menu.Click("mgeese1");
+    EXPECT_TRUE(Form.Image1.Visible && !Form.Chart1.Visible);
+    Directory.Put("field1.dat", "short");
+    State.TodayJulian = Today + 1;
+    Menu.Click("mnuCuts");  // an event, with nothing to say of the file
+    EXPECT_FALSE(Form.lblDepletion.Visible);
+    Menu.Click("mnuSelect");
+    EXPECT_FALSE(Form.lblNext.Visible || Form.Chart1.Visible);
+}
+
 TEST_F(FieldMenuTest, ABarTurnsYellowAboveTheMadAndRedAboveItByAFifth) {
     int row = 0;
     for (const auto& [id, content] : std::vector<std::pair<const char*, std::int16_t>>{

@@ -74,7 +74,7 @@ TEST_F(WaterTest, TheWorkbenchSaysWhenToIrrigateNextAfterEachReturnToIt) {
     Entry.Click("cmdCancel");
     EXPECT_EQ(Form.lblNext.Caption, wet);
     Menu.Click("mnu_MAD");
-    EXPECT_FALSE(Form.lblNext.Visible);
+    EXPECT_TRUE(Form.lblNext.Visible);
     Menu.Press("txtNewMAD", Event::EscapeKey);  // ends the adjustment, not the work on the field
     EXPECT_FALSE(Form.ShapeMAD.Visible);
     EXPECT_EQ(State.CurrentField, 1);
