@@ -57,7 +57,7 @@ void PrepareApplication(QApplication& app) {
 
 int RunDesktop(QApplication&, const StartOptions& options) {
     QtScreen screen;
-    The<frmVeraqua>().DataDirectory = options.DataDirectory;
+    StartIn(options.DataDirectory);
     try {
         Show(FormName::frmVeraqua);
     } catch (const RunTimeFailure& failure) {

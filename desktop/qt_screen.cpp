@@ -21,6 +21,8 @@ namespace {
 /// Work longer than this shows that it goes on.
 constexpr int PatienceMs = 500;
 
+QString KeptKey(const std::string& name) { return "kept/" + ToQt(name); }
+
 QMessageBox::Icon IconOf(Icon icon) {
     switch (icon) {
         case Icon::Information: return QMessageBox::Information;
@@ -132,6 +134,22 @@ void QtScreen::StartGet(const std::string& url, std::function<void(const HttpPro
 }
 
 void QtScreen::CancelGet() { request_.Cancel(); }
+
+std::vector<std::string> QtScreen::Kept(const std::string& name) const {
+    std::vector<std::string> values;
+    for (const QString& value : QSettings().value(KeptKey(name)).toStringList()) values.push_back(FromQt(value));
+    return values;
+}
+
+void QtScreen::Keep(const std::string& name, const std::vector<std::string>& values) {
+    QStringList texts;
+    for (const std::string& value : values) texts.append(ToQt(value));
+    QSettings settings;
+    if (texts.isEmpty())
+        settings.remove(KeptKey(name));
+    else
+        settings.setValue(KeptKey(name), texts);
+}
 
 bool QtScreen::OpenDocument(const std::string& path) {
     const QFileInfo file(ToQt(path));

@@ -33,6 +33,8 @@ class QtScreen : public Screen, public WindowEvents {
     void StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) override;
     void CancelGet() override;
     void SetNow(JulianValue day) override { now_ = day; }
+    std::vector<std::string> Kept(const std::string& name) const override;
+    void Keep(const std::string& name, const std::vector<std::string>& values) override;
     bool OpenDocument(const std::string& path) override;
     void Failed(const RunTimeFailure& failure) override;
 

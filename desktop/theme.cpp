@@ -102,6 +102,9 @@ QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %quiet%; 
 QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
     stop: 0.55 %accent%, stop: 0.6 %base%); }
 QRadioButton::indicator:focus { width: 12px; height: 12px; border: 2px solid %accent%; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %quiet%; border-radius: 3px; background: %base%; }
+QCheckBox::indicator:checked { background: %accent%; image: url(:/pictures/check.svg); }
+QCheckBox::indicator:focus { width: 12px; height: 12px; border: 2px solid %accent%; }
 QPushButton { padding: 6px 16px; border: 1px solid %border%; border-radius: 4px; background: %button%; }
 QPushButton:hover { border: 1px solid %accent%; }
 QPushButton:pressed { background: %window%; }

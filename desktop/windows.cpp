@@ -1,5 +1,6 @@
 #include "desktop/windows.h"
 
+#include <ui_frmAbout.h>
 #include <ui_frmAddWater.h>
 #include <ui_frmCap.h>
 #include <ui_frmCapVar.h>
@@ -7,6 +8,7 @@
 #include <ui_frmCopySoilData.h>
 #include <ui_frmCuts.h>
 #include <ui_frmDownload.h>
+#include <ui_frmFarm.h>
 #include <ui_frmField.h>
 #include <ui_frmFieldData.h>
 #include <ui_frmFieldDetails.h>
@@ -46,6 +48,8 @@ std::unique_ptr<QWidget> MakeWindow(FormName form) {
         case FormName::frmConfig: return Made<Ui::frmConfig>();
         case FormName::frmPath: return Made<Ui::frmPath>();
         case FormName::frmHelp: return Made<Ui::frmHelp>();
+        case FormName::frmAbout: return Made<Ui::frmAbout>();
+        case FormName::frmFarm: return Made<Ui::frmFarm>();
         case FormName::frmWeather: return Made<Ui::frmWeather>();
         case FormName::frmKESTA: return Made<Ui::frmKESTA>();
         case FormName::frmDownload: return Made<Ui::frmDownload>();

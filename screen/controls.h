@@ -113,6 +113,15 @@ struct OptionButton : Control {
     bool Chosen = false;
 };
 
+/// A box that stands for itself, checked or not.
+struct CheckBox : Control {
+    CheckBox() = default;
+    explicit CheckBox(std::string caption) : Caption(std::move(caption)) {}
+
+    std::string Caption;
+    bool Checked = false;
+};
+
 /// An entry of the menu bar (level 1) or of a menu below it; one with entries of the next level behind it opens these.
 struct MenuItem : Control {
     MenuItem() = default;

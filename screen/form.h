@@ -37,7 +37,8 @@ F& The() {
 }
 
 enum class Event {
-    /// Button pressed, menu entry or option chosen, list row or calendar day picked, row of a table opened.
+    /// Button pressed, menu entry or option chosen, box checked or cleared, list row or calendar day picked, row of a
+    /// table opened.
     Click,
     Change,  ///< text typed into a box; in an editable drop-down list, on leaving it or Enter
     Leave,   ///< the focus is about to go elsewhere, but not to an exit; a refusal keeps it
@@ -45,8 +46,9 @@ enum class Event {
     EscapeKey,
 };
 
-using AnyControl = std::variant<Label*, Frame*, TextBox*, Button*, ComboBox*, ListBox*, OptionButton*, MenuItem*,
-                                StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*, Chart*, Table*>;
+using AnyControl =
+    std::variant<Label*, Frame*, TextBox*, Button*, ComboBox*, ListBox*, OptionButton*, CheckBox*, MenuItem*,
+                 StatusBar*, ProgressBar*, Image*, Calendar*, DirectoryBox*, Drawing*, Chart*, Table*>;
 
 struct ControlEntry {
     std::string Name;  ///< in an array with its index: "txtcap(2)"

@@ -9,6 +9,8 @@ enum class FormName {
     frmConfig,
     frmPath,
     frmHelp,
+    frmAbout,
+    frmFarm,
     // weather
     frmWeather,
     frmKESTA,

@@ -59,6 +59,7 @@ At& At::Click(std::string_view name) {
     const bool takesFocus = !std::holds_alternative<MenuItem*>(control.Where);
     if (takesFocus ? !Reach(control) : held_) return *this;
     if (OptionButton* const* option = std::get_if<OptionButton*>(&control.Where)) Choose(*form_, **option);
+    if (CheckBox* const* box = std::get_if<CheckBox*>(&control.Where)) (*box)->Checked = !(*box)->Checked;
     RunEvent(*form_, control, Event::Click);
     return *this;
 }

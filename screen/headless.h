@@ -27,6 +27,11 @@ class HeadlessScreen : public Screen {
     void StartGet(const std::string& url, std::function<void(const HttpProgress&)> progress) override;
     void CancelGet() override { waiting_ = nullptr; }
     bool OpenDocument(const std::string&) override { return false; }
+    std::vector<std::string> Kept(const std::string& name) const override {
+        const auto found = kept_.find(name);
+        return found != kept_.end() ? found->second : std::vector<std::string>{};
+    }
+    void Keep(const std::string& name, const std::vector<std::string>& values) override { kept_[name] = values; }
 
   protected:
     /// What a request that a form has begun comes to; it returns when all is over.
@@ -39,6 +44,7 @@ class HeadlessScreen : public Screen {
 
     std::map<FormName, std::function<void()>> doings_;
     std::function<void()> waiting_;
+    std::map<std::string, std::vector<std::string>> kept_;
 };
 
 /// The user at a form, by the names of its controls. What can't be seen or is disabled can't be used: that is a mistake

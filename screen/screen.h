@@ -66,6 +66,13 @@ class Screen : public Ask {
     /// Opens a file of the data directory in the platform's viewer. False if there is none for it.
     virtual bool OpenDocument(const std::string& path) = 0;
 
+    /// What was kept under `name` for later starts of this program; empty where nothing was. Kept with the program's
+    /// settings, never with the data.
+    virtual std::vector<std::string> Kept(const std::string& name) const = 0;
+
+    /// Keeps `values` under `name` for later starts; none forget what was kept.
+    virtual void Keep(const std::string& name, const std::vector<std::string>& values) = 0;
+
     /// An event has failed and is over.
     virtual void Failed(const RunTimeFailure& failure) = 0;
 };

@@ -55,6 +55,10 @@ class Photographer {
         At menu(FormName::frmVeraqua);
         TakeWhenShown(FormName::frmHelp);
         menu.Click("cmdHelp");
+        TakeWhenShown(FormName::frmAbout);
+        menu.Click("mnuAbout");
+        TakeWhenShown(FormName::frmFarm);
+        menu.Click("mnuOther");
         menu.Click("cmdConfig");
         At configuration(FormName::frmConfig);
         Take(FormName::frmConfig);

@@ -45,6 +45,7 @@ std::unique_ptr<ControlView> MakeView(ControlEntry& control, QWidget& window, Fo
             [&](OptionButton* option) { return MakeOption(control, *option, widget, form, events); },
             [&](MenuItem* item) { return MakeMenuEntry(control, *item, window.findChild<QObject*>(name), events); },
             [&](Button* button) { return MakeInput(control, *button, widget, events); },
+            [&](CheckBox* box) { return MakeInput(control, *box, widget, events); },
             [&](ComboBox* box) { return MakeInput(control, *box, widget, events); },
             [&](ListBox* list) { return MakeInput(control, *list, widget, events); },
             [&](Calendar* calendar) { return MakeInput(control, *calendar, widget, events); },

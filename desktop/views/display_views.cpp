@@ -64,6 +64,7 @@ class StatusView : public WidgetView<StatusBar, QStatusBar> {
         for (QLabel*& panel : panels_) {
             panel = new QLabel(&shown);
             panel->setTextFormat(Qt::PlainText);
+            panel->setMinimumWidth(1);  // a long path keeps no window from being small
             shown.addWidget(panel, 1);
         }
     }

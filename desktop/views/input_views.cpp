@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCalendarWidget>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -101,6 +102,23 @@ class OptionView : public WidgetView<OptionButton, QRadioButton> {
         Shown().setAutoExclusive(false);
         Shown().setChecked(Record().Chosen);
         Shown().setAutoExclusive(true);
+    }
+
+    QString designed_;
+};
+
+class CheckView : public WidgetView<CheckBox, QCheckBox> {
+  public:
+    CheckView(ControlEntry& entry, CheckBox& box, QCheckBox& shown, ControlEvents& events)
+        : WidgetView(entry, box, shown, events), designed_(shown.text()) {
+        QObject::connect(&shown, &QAbstractButton::clicked, &shown,
+                         [this](bool checked) { Picked([this, checked] { Record().Checked = checked; }); });
+    }
+
+  private:
+    void BringOwn() override {
+        Shown().setText(CaptionWithMnemonic(Record().Caption, designed_));
+        Shown().setChecked(Record().Checked);
     }
 
     QString designed_;
@@ -215,6 +233,10 @@ std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, TextBox& box, QWidge
 
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, Button& button, QWidget* widget, ControlEvents& events) {
     return ViewOn<ButtonView, QAbstractButton>(entry, button, widget, events);
+}
+
+std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, CheckBox& box, QWidget* widget, ControlEvents& events) {
+    return ViewOn<CheckView, QCheckBox>(entry, box, widget, events);
 }
 
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, ComboBox& box, QWidget* widget, ControlEvents& events) {

@@ -71,6 +71,7 @@ std::unique_ptr<ControlView> ViewOn(ControlEntry& entry, C& control, QWidget* wi
 
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, TextBox& box, QWidget* widget, ControlEvents& events);
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, Button& button, QWidget* widget, ControlEvents& events);
+std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, CheckBox& box, QWidget* widget, ControlEvents& events);
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, ComboBox& box, QWidget* widget, ControlEvents& events);
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, ListBox& list, QWidget* widget, ControlEvents& events);
 std::unique_ptr<ControlView> MakeInput(ControlEntry& entry, Calendar& calendar, QWidget* widget, ControlEvents& events);

@@ -12,14 +12,12 @@
 #include "core/state.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
+#include "shell/forms/kept.h"
 #include "shell/forms/main_menu.h"
 
 namespace veraqua {
 
 namespace {
-
-constexpr int FewestDisplays = 9;
-constexpr int MostDisplays = 16;
 
 using Group = std::initializer_list<Control*>;
 
@@ -30,13 +28,14 @@ void SetVisible(Group controls, bool visible) {
 void HideGroups(frmConfig& form) {
     SetVisible({&form.lblNewDate, &form.txtDate, &form.cmd_Calendar, &form.Cal1, &form.cmdOK, &form.frmUnits,
                 &form.lblUnits, &form.optEnglish, &form.lblEnglish, &form.optMetric, &form.lblmetric,
-                &form.lblSetDisplay, &form.lstDisplay, &form.lblDisplay, &form.txtDisplays},
+                &form.lblSetDisplay, &form.lstDisplay, &form.lblDisplay, &form.txtDisplays, &form.chkKeep},
                false);
 }
 
 void Load(frmConfig& form) {
     form.Caption = "Configuration Options, Veraqua " + State.VersionString;
     HideGroups(form);
+    form.chkKeep.Checked = OptionsAreKept();
     ShowProgramIn(form.StatusBar1);
 }
 
@@ -97,19 +96,33 @@ void mnuUnits_Click(frmConfig& form) {
     HideGroups(form);
     form.optEnglish.Chosen = State.EnglishUnits;
     form.optMetric.Chosen = !State.EnglishUnits;
-    SetVisible({&form.frmUnits, &form.lblUnits, &form.optEnglish, &form.lblEnglish, &form.optMetric, &form.lblmetric},
+    SetVisible({&form.frmUnits, &form.lblUnits, &form.optEnglish, &form.lblEnglish, &form.optMetric, &form.lblmetric,
+                &form.chkKeep},
                true);
 }
 
-void optEnglish_Click(frmConfig&) { State.EnglishUnits = true; }
+/// What is chosen while the box is checked is kept as well.
+void chkKeep_Click(frmConfig& form) {
+    if (form.chkKeep.Checked)
+        KeepOptions();
+    else
+        ForgetOptions();
+}
 
-void optMetric_Click(frmConfig&) { State.EnglishUnits = false; }
+void Choose(frmConfig& form, bool english) {
+    State.EnglishUnits = english;
+    chkKeep_Click(form);
+}
+
+void optEnglish_Click(frmConfig& form) { Choose(form, true); }
+
+void optMetric_Click(frmConfig& form) { Choose(form, false); }
 
 void mnuDisplay_Click(frmConfig& form) {
     HideGroups(form);
     form.lstDisplay.Index = State.DisplayDays - FewestDisplays;
     form.txtDisplays.Text = fmt::format("{}", State.DisplayDays);
-    SetVisible({&form.lblSetDisplay, &form.lstDisplay, &form.lblDisplay, &form.txtDisplays}, true);
+    SetVisible({&form.lblSetDisplay, &form.lstDisplay, &form.lblDisplay, &form.txtDisplays, &form.chkKeep}, true);
 }
 
 void lstDisplay_Click(frmConfig& form) {
@@ -117,6 +130,7 @@ void lstDisplay_Click(frmConfig& form) {
     if (row == nullptr) return;
     State.DisplayDays = static_cast<std::int16_t>(row->Data);
     form.txtDisplays.Text = row->Text;
+    chkKeep_Click(form);
 }
 
 void Leave(frmConfig&) {
@@ -154,6 +168,7 @@ FormTable TableOf(frmConfig& form) {
     table.Add("lstDisplay", form.lstDisplay).Click(lstDisplay_Click);
     table.Add("lblDisplay", form.lblDisplay);
     table.Add("txtDisplays", form.txtDisplays);
+    table.Add("chkKeep", form.chkKeep).Click(chkKeep_Click);
     table.Add("Cmd_Exit", form.Cmd_Exit).Click(Leave).Exit();
     table.Add("StatusBar1", form.StatusBar1);
     table.Load(Load).Close(Leave);

@@ -4,7 +4,12 @@
 
 namespace veraqua {
 
+/// How many fields a display can be set to show at once.
+constexpr int FewestDisplays = 9;
+constexpr int MostDisplays = 16;
+
 /// The options of one run: the date that counts as today, the units, and how many fields a display shows at once.
+/// The last two can be kept for the next.
 struct frmConfig : Form {
     frmConfig();
 
@@ -34,6 +39,9 @@ struct frmConfig : Form {
     ListBox lstDisplay;
     Label lblDisplay{"Displays set to:"};
     TextBox txtDisplays;
+
+    // With units and display
+    CheckBox chkKeep{"Keep for the next start"};
 
     // Always there
     Button Cmd_Exit{"Main Menu"};

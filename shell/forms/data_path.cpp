@@ -1,18 +1,16 @@
 #include "shell/forms/data_path.h"
 
-#include <cstdlib>
 #include <initializer_list>
 #include <string>
-#include <vector>
 
 #include <fmt/format.h>
 
-#include "core/base/failure.h"
 #include "core/files/files.h"
 #include "screen/forms.h"
 #include "screen/screen.h"
 #include "shell/data_search.h"
 #include "shell/first_start.h"
+#include "shell/forms/picker.h"
 
 namespace veraqua {
 
@@ -24,28 +22,11 @@ void ShowPicker(frmPath& form, bool visible) {
         control->Visible = visible;
 }
 
-/// Goes on with the directory picked, or, after the user has been told why it can't be read, with the one before.
-void Dir1_Click(frmPath& form) {
-    try {
-        const std::vector<std::string> names = files::FilesIn(form.Dir1.Path);
-        form.lblPath.Caption = form.Dir1.Path;
-        form.File1.Clear();
-        for (const std::string& name : names) form.File1.Add(name);
-    } catch (const Refusal& refusal) {  // the choice stays with the user
-        form.Dir1.Path = form.lblPath.Caption;
-        TheScreen().Tell(refusal.what());
-    }
-}
+void Dir1_Click(frmPath& form) { ShowPicked(form.Dir1, form.lblPath, form.File1); }
 
 void Drive1_Click(frmPath& form) {
     form.Dir1.Path = form.Drive1.Text;
     Dir1_Click(form);
-}
-
-void ListDrives(ComboBox& drives) {
-    const char* home = std::getenv("HOME");
-    if (home != nullptr && *home != '\0') drives.Add(WithSlash(home));
-    drives.Add("/");
 }
 
 void Load(frmPath& form) {

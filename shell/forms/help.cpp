@@ -22,6 +22,7 @@ constexpr std::string_view Instructions =
     "- CLICK on [User's Manual] at the bottom of this screen for detailed instructions!\n\n"
     "  The list [Today] shows what each field needs, the most urgent first.\n\n"
     "  [Configuration] sets the date, the units, and how many fields the bars show at once.\n\n"
+    "  The menu [Farm] opens or makes another farm, each in a directory of its own.\n\n"
     "  F1 opens the manual at the place of the window that you are in.";
 
 void Load(frmHelp& form) { form.rtbVersion1.Text = State.VersionString; }

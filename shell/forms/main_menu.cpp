@@ -1,7 +1,12 @@
 #include "shell/forms/main_menu.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -15,27 +20,50 @@
 #include "screen/screen.h"
 #include "shell/data_search.h"
 #include "shell/forms/configuration.h"
+#include "shell/forms/farm.h"
+#include "shell/forms/kept.h"
 #include "weather/network_address.h"
 
 namespace veraqua {
 
 namespace {
 
+/// The data directory that the program was told to begin in.
+std::optional<std::string>& DirectoryAtStart() {
+    static std::optional<std::string> directory;
+    return directory;
+}
+
+/// Opens the farm of last time, where it was opened from the menu and is still there.
+bool OpenFarmOfLastTime() {
+    const std::vector<std::string> farms = KeptFarms();
+    if (farms.empty()) return false;
+    if (OpenDataDirectory({farms.front()}, files::Access::Write)) return true;
+    TheScreen().Tell(fmt::format("The farm of last time isn't there now: {}", farms.front()));
+    return false;
+}
+
 /// Opens the data directory and reads its field directory. Where the user has to point to it, this goes on after that.
-void StartInDataDirectory(const frmVeraqua& form) {
-    const auto candidates = form.DataDirectory ? std::vector{*form.DataDirectory} : DefaultDataDirectories();
-    if (!OpenDataDirectory(candidates, files::Access::Write)) ShowModal(FormName::frmPath);
+void StartInDataDirectory() {
+    const std::vector<std::string> usual = DefaultDataDirectories();
+    const bool isOpen = DirectoryAtStart() ? OpenDataDirectory({*DirectoryAtStart()}, files::Access::Write)
+                                           : OpenFarmOfLastTime() || OpenDataDirectory(usual, files::Access::Write);
+    if (!isOpen) ShowModal(FormName::frmPath);
     StartUp(TheScreen());
     TakeNetworkOfUser();
+    TakeKeptOptions();
 }
 
 void Load(frmVeraqua& form) {
     State.StartDate = TheScreen().Now();
     try {
-        StartInDataDirectory(form);
-    } catch (const RunTimeFailure& failure) {
-        // Another program holds the directory, or a file that nothing can do without is damaged.
+        StartInDataDirectory();
+    } catch (const Refusal& refusal) {  // another program holds the directory
+        TheScreen().Tell(refusal.what(), ProgramTitle, Icon::Stop);
+        TheScreen().EndProgram();
+    } catch (const RunTimeFailure& failure) {  // a file that nothing can do without is damaged
         TheScreen().Tell(failure.what(), ProgramTitle, Icon::Stop);
+        ForgetFarm(files::DirectoryPath());
         TheScreen().EndProgram();
     }
     ShowProgramIn(form.StatusBar1);
@@ -52,6 +80,16 @@ void cmdfields_Click(frmVeraqua&) {
     Fill(FormName::frmField);
 }
 
+void ShowRecent(frmVeraqua& form) {
+    form.Recent = KeptFarms();
+    std::erase(form.Recent, files::DirectoryPath());
+    form.Recent.resize(std::min(form.Recent.size(), form.mnuRecent.size()));
+    for (std::size_t i = 0; i < form.mnuRecent.size(); ++i) {
+        form.mnuRecent[i].Visible = form.mnuRecent[i].Enabled = i < form.Recent.size();
+        if (form.mnuRecent[i].Visible) form.mnuRecent[i].Caption = form.Recent[i];
+    }
+}
+
 void ShowToday(frmVeraqua& form) {
     FillTodayList(form.Today, form.txtFilter.Text);
     const bool hasFields = State.FieldCount > 0;
@@ -59,6 +97,12 @@ void ShowToday(frmVeraqua& form) {
                                           : "No fields yet. Click on Field Options to add one.";
     for (Button* button : {&form.cmdOpenToday, &form.cmdPrintToday, &form.cmdSaveToday})
         button->Enabled = !form.Today.Rows.empty();
+}
+
+void Appear(frmVeraqua& form) {
+    form.StatusBar1.Panels[2] = files::DirectoryPath();
+    ShowRecent(form);
+    ShowToday(form);
 }
 
 void Today_Click(frmVeraqua& form) {
@@ -93,6 +137,12 @@ void cmdConfig_Click(frmVeraqua&) { GoTo(FormName::frmConfig); }
 
 void cmdHelp_Click(frmVeraqua&) { ShowModal(FormName::frmHelp); }
 
+void mnuOther_Click(frmVeraqua&) { ShowModal(FormName::frmFarm); }
+
+void mnuRecent_Click(frmVeraqua& form, int index) { GoToFarm(form.Recent.at(static_cast<std::size_t>(index))); }
+
+void mnuAbout_Click(frmVeraqua&) { ShowModal(FormName::frmAbout); }
+
 void cmdExit_Click(frmVeraqua&) {
     Unload(FormName::frmVeraqua);
     TheScreen().EndProgram();
@@ -123,6 +173,8 @@ void Unloaded(frmVeraqua&) {
 
 }  // namespace
 
+void StartIn(std::optional<std::string> directory) { DirectoryAtStart() = std::move(directory); }
+
 void ShowProgramIn(StatusBar& bar) {
     bar.Panels[0] = " Veraqua " + State.VersionString + " ";
     bar.Panels[1] = "  Today is " + JulianToLongText(TheScreen().Now());
@@ -150,8 +202,13 @@ FormTable TableOf(frmVeraqua& form) {
     table.Add("cmdOpenToday", form.cmdOpenToday).Click(cmdOpenToday_Click);
     table.Add("cmdPrintToday", form.cmdPrintToday).Click(cmdPrintToday_Click);
     table.Add("cmdSaveToday", form.cmdSaveToday).Click(cmdSaveToday_Click);
+    table.Add("mnuFarm", form.mnuFarm);
+    table.Add("mnuOther", form.mnuOther).Click(mnuOther_Click);
+    table.Add("mnuRecent", form.mnuRecent).Click(mnuRecent_Click);
+    table.Add("mnuHelp", form.mnuHelp);
+    table.Add("mnuAbout", form.mnuAbout).Click(mnuAbout_Click);
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Appear(ShowToday).Fill(ShowToday).Minute(Minute).Close(cmdExit_Click).Unload(Unloaded);
+    table.Load(Load).Appear(Appear).Fill(ShowToday).Minute(Minute).Close(cmdExit_Click).Unload(Unloaded);
     return table.Done();
 }
 

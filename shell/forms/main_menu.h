@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "screen/form.h"
 
@@ -35,13 +37,24 @@ struct frmVeraqua : Form {
     Button cmdPrintToday{"Print list"};
     Button cmdSaveToday{"Save list", "As CSV, for a spreadsheet"};
 
+    // The menu
+    MenuItem mnuFarm{"Farm"};
+    MenuItem mnuOther{"Another Farm...", 2};
+    std::array<MenuItem, 5> mnuRecent{};  ///< those used before
+    MenuItem mnuHelp{"Help"};
+    MenuItem mnuAbout{"About Veraqua", 2};
+
     StatusBar StatusBar1;
 
-    JulianValue DayOffered = 0;                ///< the new day that the user was last told of
-    std::optional<std::string> DataDirectory;  ///< to open in the place of the usual one
+    JulianValue DayOffered = 0;       ///< the new day that the user was last told of
+    std::vector<std::string> Recent;  ///< directories behind `mnuRecent`
 };
 
 FormTable TableOf(frmVeraqua& form);
+
+/// The data directory in which the main menu begins, in the place of that of last time and the usual ones; nothing:
+/// these.
+void StartIn(std::optional<std::string> directory);
 
 /// Shows the version and the computer's date in the first two panels.
 void ShowProgramIn(StatusBar& bar);

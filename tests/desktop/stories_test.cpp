@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
@@ -270,6 +271,18 @@ TEST_F(StoriesTest, UnitsAndTheDayAreChosenAndHoldInEveryWindow) {
     for (int column = 0; column < model->columnCount(); ++column)
         headings += model->headerData(column, Qt::Horizontal).toString() + " ";
     EXPECT_TRUE(headings.contains("(mm)")) << FromQt(headings);
+}
+
+TEST_F(StoriesTest, WhatIsKeptForTheNextStartIsOutOfTheData) {
+    Today();
+    const std::vector<std::string> before = files::Names();
+    Click(FormName::frmVeraqua, "cmdConfig");
+    Choose(FormName::frmConfig, "mnuUnits");
+    The<QCheckBox>(FormName::frmConfig, "chkKeep").click();
+    EXPECT_EQ(Screen.Kept("options"), (std::vector<std::string>{"english", "12"}));
+    The<QCheckBox>(FormName::frmConfig, "chkKeep").click();
+    EXPECT_TRUE(Screen.Kept("options").empty());
+    EXPECT_EQ(files::Names(), before);
 }
 
 TEST_F(StoriesTest, AYearOfWeatherIsATable) {

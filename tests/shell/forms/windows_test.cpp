@@ -4,10 +4,13 @@
 #include <gmock/gmock.h>
 
 #include "core/clock.h"
+#include "core/directory.h"
 #include "data/embedded.h"
 #include "reports/forms/forms.h"
+#include "shell/forms/about.h"
 #include "shell/forms/configuration.h"
 #include "shell/forms/data_path.h"
+#include "shell/forms/farm.h"
 #include "shell/forms/forms.h"
 #include "shell/forms/main_menu.h"
 #include "tests/support/builders.h"
@@ -63,6 +66,10 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     EXPECT_EQ(State.TodayJulian, today + 2);
     EXPECT_EQ(panels[1], "  Today is 07-17-2003");
 
+    User.WhenShown(FormName::frmAbout, [&] {
+        EXPECT_EQ(The<frmAbout>().lblVersion.Caption + The<frmAbout>().txtDirectory.Text, "Ver 1.17" + capital);
+    });
+    At(FormName::frmVeraqua).Click("mnuAbout");
     Show(FormName::frmWeather);
     EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
     EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
@@ -71,6 +78,11 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
 
 TEST_F(ShellTest, AsksForADirectoryThatItDoesNotFind) {
     const std::string other = Make("other");
+    StartIn(other);  // as the command says
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), other);
+    Unload(FormName::frmVeraqua);
+    StartIn({});
     User.WhenShown(FormName::frmPath, [&] {
         frmPath& form = The<frmPath>();
         EXPECT_EQ(form.lblMsg.Caption, "The file WEATHDEF.DAT was not found at the \ndefault location " +
@@ -146,6 +158,60 @@ TEST_F(ShellTest, LeadsFromTheListOfTodayToTheField) {
     EXPECT_EQ(User.Told.back().Text, "The list of fields was sent to your default printer");
 }
 
+TEST_F(ShellTest, GoesFromOneFarmToAnotherAndBack) {
+    const std::string home = Make("home/veraqua");
+    const std::string damaged = Make("damaged");
+    Directory.Put("damaged/weathdef.dat", "33, 6\nFENWOLD\n");
+    Show(FormName::frmVeraqua);
+    frmVeraqua& form = The<frmVeraqua>();
+    AField().StoreAt(1);
+    State.Stat[1].LastDay = User.Today;
+    SaveFieldRow(User, 1);
+    StartUp(User);
+    State.EnglishUnits = false;
+    State.StationName = "HILL";
+    const auto open = [&](const std::string& path, const char* name, const char* button) {
+        User.WhenShown(FormName::frmFarm, [=] {
+            The<frmFarm>().Dir1.Path = path;
+            At(FormName::frmFarm).Click("Dir1").Type("txtName", name).Click(button);
+        });
+        At(FormName::frmVeraqua).Click("mnuOther");
+    };
+    for (const std::string& refused : {damaged, home, Directory.Path() + "nowhere/"}) {
+        User.Failures.clear();
+        open(refused, "", "cmd_OK");
+        EXPECT_EQ(User.Failures.size(), 1U) << refused;
+        EXPECT_EQ(files::DirectoryPath(), home);
+        EXPECT_EQ(State.FieldCount, 1);
+        EXPECT_EQ(State.StationName, "HILL");
+    }
+    files::Write("still.txt", "the lock is held");
+    open(Directory.Path(), "other", "cmd_Empty");
+    const std::string other = Directory.Path() + "other/";
+    EXPECT_EQ(files::DirectoryPath(), other);
+    EXPECT_EQ(form.StatusBar1.Panels[2], other);
+    EXPECT_EQ(State.FieldCount, 0);
+    EXPECT_EQ(State.StationName, "UNKNOWN");
+    EXPECT_FALSE(State.EnglishUnits);
+    EXPECT_EQ(form.mnuRecent[0].Caption, home);
+    EXPECT_FALSE(form.mnuRecent[1].Visible);
+    open(other, "", "cmd_Sample");  // there is one already
+    EXPECT_THAT(User.Failures.back(), HasSubstr("is open already"));
+
+    Unload(FormName::frmVeraqua);
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(files::DirectoryPath(), other);
+    At(FormName::frmVeraqua).Click("mnuRecent(0)");
+    EXPECT_EQ(files::DirectoryPath(), home);
+    EXPECT_EQ(form.Today.Rows.size(), 1U);
+    At(FormName::frmVeraqua).Click("mnuRecent(0)");
+    Unload(FormName::frmVeraqua);
+    std::filesystem::remove_all(other);
+    Show(FormName::frmVeraqua);
+    EXPECT_EQ(User.LastSaid(), "Veraqua: The farm of last time isn't there now: " + other);
+    EXPECT_EQ(files::DirectoryPath(), home);
+}
+
 struct Options : ShellTest {
     frmConfig& Form = The<frmConfig>();
 
@@ -189,6 +255,22 @@ TEST_F(Options, SetTheUnitsAndTheDisplay) {
     At(FormName::frmConfig).Click("mnuUnits").Click("optMetric").Click("mnuDisplay").Pick("lstDisplay", 7).Close();
     EXPECT_FALSE(State.EnglishUnits);
     EXPECT_EQ(State.DisplayDays, 16);
+}
+
+TEST_F(Options, AreKeptForTheNextStartWhereTheUserWantsIt) {
+    const auto restart = [] {
+        Unload(FormName::frmVeraqua);
+        Show(FormName::frmVeraqua);
+        At(FormName::frmVeraqua).Click("cmdConfig");
+        At(FormName::frmConfig).Click("mnuUnits");
+    };
+    At(FormName::frmConfig).Click("mnuUnits").Click("chkKeep").Click("optMetric").Click("mnuDisplay");
+    At(FormName::frmConfig).Pick("lstDisplay", 7).Close();
+    restart();
+    EXPECT_TRUE(!State.EnglishUnits && State.DisplayDays == 16 && Form.chkKeep.Checked);
+    At(FormName::frmConfig).Click("chkKeep").Close();
+    restart();
+    EXPECT_TRUE(State.EnglishUnits && State.DisplayDays == 12 && !Form.chkKeep.Checked);
 }
 
 }  // namespace
