@@ -2,8 +2,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,7 +9,9 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 
 #include "desktop/manual/manual_window.h"
@@ -32,10 +32,21 @@ bool IsMoveOfFocus(const QEvent& event) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
 }
 
-/// Enter means something of its own there.
-bool TakesEnterItself(const QWidget* at) {
+/// Enter means something of its own there: a line break, or the row in a list whose rows are picked.
+bool TakesEnterItself(const QWidget* at, const ControlEntry* entry) {
     const auto* page = qobject_cast<const QPlainTextEdit*>(at);
-    return qobject_cast<const QAbstractItemView*>(at) != nullptr || (page != nullptr && !page->isReadOnly());
+    const bool picks = entry == nullptr || entry->Events.contains(Event::Click);
+    return (qobject_cast<const QAbstractItemView*>(at) != nullptr && picks) || (page != nullptr && !page->isReadOnly());
+}
+
+bool IsUsable(const QWidget& widget, const QWidget& window) {
+    return widget.isEnabled() && widget.isVisibleTo(&window);
+}
+
+/// A mere button is no place to begin: Enter would press it.
+bool IsInput(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) == nullptr ||
+           qobject_cast<const QRadioButton*>(&widget) != nullptr;
 }
 
 QPushButton* DefaultButtonOf(const QWidget& window) {
@@ -52,7 +63,10 @@ BoundWindow::BoundWindow(FormTable& form, WindowEvents& events)
     : form_(&form), events_(&events), window_(MakeWindow(form.Name)) {
     BindControls();
     window_->installEventFilter(this);
-    for (QWidget* widget : window_->findChildren<QWidget*>()) widget->installEventFilter(this);
+    for (QWidget* widget : window_->findChildren<QWidget*>()) {
+        widget->installEventFilter(this);
+        if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+    }
     for (QLineEdit* line : window_->findChildren<QLineEdit*>())
         if (line->property("date").toBool()) AddDatePopup(*line);
     if (auto* area = window_->findChild<QMdiArea*>()) panels_ = std::make_unique<PanelArea>(*area, events);
@@ -68,6 +82,7 @@ void BoundWindow::BindControls() {
 }
 
 void BoundWindow::Bring() {
+    const QPointer<QWidget> at = window_->focusWidget();
     window_->setWindowTitle(PlainCaption(form_->Record->Caption));
     ShowBackground(*window_, form_->Record->Background);
     HoldLayout(true);
@@ -76,6 +91,8 @@ void BoundWindow::Bring() {
     BringContainers();
     HoldLayout(false);
     if (panels_) panels_->Bring(form_->Record->Children);
+    // The toolkit would put the keyboard on whatever comes next, be it the button by which the window is left.
+    if (at != nullptr && at != window_.get() && !IsUsable(*at, *window_)) FocusOn(FirstInput());
 }
 
 /// While some of what goes away still stands beside what comes, the window would grow for both.
@@ -112,13 +129,27 @@ void BoundWindow::PutFocus(const ControlEntry& control, bool selectText) {
     if (!told.isEmpty()) note_.Show(*widget, told);
 }
 
-void BoundWindow::FocusFirst() {
-    if (form_->Focused != nullptr || window_->focusWidget() != nullptr) return;
+void BoundWindow::TakeFocus() {
+    const ControlEntry* kept = form_->Focused == nullptr ? nullptr : form_->Find(*form_->Focused);
+    const ControlView* view = kept == nullptr || kept->IsExit ? nullptr : ViewOf(*kept);
+    QWidget* place = view == nullptr ? nullptr : view->Widget();
+    if (place != nullptr && IsUsable(*place, *window_)) return place->setFocus(Qt::OtherFocusReason);
+    place = FirstInput();
+    FocusOn(place == nullptr ? DefaultButtonOf(*window_) : place);
+}
+
+QWidget* BoundWindow::FirstInput() const {
     for (QWidget* widget = window_->nextInFocusChain(); widget != window_.get(); widget = widget->nextInFocusChain()) {
-        const bool takesIt = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled();
-        if (!takesIt || !widget->isVisibleTo(window_.get()) || EntryOf(widget) == nullptr) continue;
-        return widget->setFocus(Qt::OtherFocusReason);
+        const bool takesIt = (widget->focusPolicy() & Qt::TabFocus) != 0 && IsUsable(*widget, *window_);
+        if (takesIt && IsInput(*widget) && EntryOf(widget) != nullptr) return widget;
     }
+    return nullptr;
+}
+
+void BoundWindow::FocusOn(QWidget* place) {
+    const ControlEntry* entry = place == nullptr ? nullptr : EntryOf(place);
+    form_->Focused = entry == nullptr ? nullptr : &entry->Shared();
+    (place == nullptr ? window_.get() : place)->setFocus(Qt::OtherFocusReason);
 }
 
 bool BoundWindow::Reach(const ControlEntry& control) {
@@ -136,11 +167,6 @@ bool BoundWindow::Reach(const ControlEntry& control) {
     return moved;
 }
 
-bool BoundWindow::IsLeaving() const {
-    const ControlEntry* at = EntryOf(QApplication::focusWidget());
-    return at != nullptr && at->IsExit;
-}
-
 /// A check keeps the user where they were, and says why.
 void BoundWindow::KeepFocus(const ControlEntry& wanted) {
     if (const ControlView* view = ViewOf(wanted))
@@ -149,12 +175,17 @@ void BoundWindow::KeepFocus(const ControlEntry& wanted) {
     if (kept != nullptr) PutFocus(*kept, true);
 }
 
-void BoundWindow::Happened(const ControlEntry& control, Event event) {
-    if (isReaching_) return;
+template <class Function>
+void BoundWindow::InEvent(Function function) {
     note_.Clear();
     events_->EventBegins();
-    RunEvent(*form_, control, event);
+    function();
     events_->EventEnds();
+}
+
+void BoundWindow::Happened(const ControlEntry& control, Event event) {
+    if (isReaching_) return;
+    InEvent([&] { RunEvent(*form_, control, event); });
 }
 
 void BoundWindow::Typed(const ControlEntry& control) {
@@ -214,45 +245,48 @@ void BoundWindow::FocusArrived(const ControlEntry& control) {
 
 bool BoundWindow::KeyPressed(QObject* watched, int key) {
     QWidget* const at = qobject_cast<QWidget*>(watched);
-    if (at == nullptr || !at->hasFocus()) return false;
+    if (at == nullptr) return false;
     const bool isPanel = !window_->isWindow();
+    // What a panel inside has left over comes to its window.
+    if (key == Qt::Key_Escape && !isPanel && (at->hasFocus() || at == window_.get())) return EscapePressed(), true;
+    if (!at->hasFocus()) return false;
     switch (key) {
         case Qt::Key_F1: ShowManual(window_->window(), window_->window()->property("help").toString()); return true;
         case Qt::Key_Return:
         case Qt::Key_Enter: return EnterPressed(at);
-        case Qt::Key_Escape:
-            if (isPanel) return false;
-            Leave();
-            return true;
+        case Qt::Key_Delete: return DeletePressed(at);
         default: return false;
     }
 }
 
 bool BoundWindow::EnterPressed(QWidget* at) {
-    if (TakesEnterItself(at)) return false;
     const ControlEntry* entry = EntryOf(at);
-    if (entry != nullptr && entry->Events.contains(Event::EnterKey)) {
-        if (Reach(*entry)) Happened(*entry, Event::EnterKey);
-        return true;
+    if (TakesEnterItself(at, entry)) return false;
+    if (entry != nullptr) {
+        if (!Reach(*entry)) return true;
+        bool hasMeaning = false;
+        InEvent([&] { hasMeaning = PressEnter(*form_, *entry); });
+        if (hasMeaning) return true;
     }
-    if (qobject_cast<QComboBox*>(at) != nullptr) return false;
-    // What was typed into a list is taken by the first Enter.
-    const auto* line = qobject_cast<QLineEdit*>(at);
-    if (entry != nullptr && line != nullptr)
-        if (ComboBox* const* list = std::get_if<ComboBox*>(&entry->Where))
-            if (FromQt(line->text()) != (*list)->Text) return false;
     if (auto* button = qobject_cast<QPushButton*>(at)) return button->click(), true;
     if (QPushButton* button = DefaultButtonOf(*window_)) return button->click(), true;
     return false;
 }
 
-/// By the window's frame or Esc, unless the control in focus has a meaning of its own for Esc.
+bool BoundWindow::DeletePressed(QWidget* at) {
+    const ControlEntry* entry = EntryOf(at);
+    if (entry == nullptr || !entry->Events.contains(Event::DeleteKey)) return false;
+    if (Reach(*entry)) Happened(*entry, Event::DeleteKey);
+    return true;
+}
+
+void BoundWindow::EscapePressed() {
+    InEvent([this] { PressEscape(*form_); });
+}
+
+/// By the window's frame.
 void BoundWindow::Leave() {
-    const ControlEntry* entry = form_->Focused == nullptr ? nullptr : form_->Find(*form_->Focused);
-    if (entry != nullptr && entry->Events.contains(Event::EscapeKey)) return Happened(*entry, Event::EscapeKey);
-    events_->EventBegins();
-    CloseForm(*form_);
-    events_->EventEnds();
+    InEvent([this] { CloseForm(*form_); });
 }
 
 }  // namespace veraqua

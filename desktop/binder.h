@@ -46,11 +46,11 @@ class BoundWindow : public QObject, public ControlEvents {
 
     void PutFocus(const ControlEntry& control, bool selectText);
 
-    /// Puts the keyboard where the tab order begins, unless the form has put it somewhere.
-    void FocusFirst();
+    /// The window has come up: puts the keyboard where the form has put it or the user has left it, else on the first
+    /// input; where there is none, on the default button.
+    void TakeFocus();
 
     bool Reach(const ControlEntry& control) override;
-    bool IsLeaving() const override;
     void Happened(const ControlEntry& control, Event event) override;
     void Typed(const ControlEntry& control) override;
 
@@ -69,9 +69,15 @@ class BoundWindow : public QObject, public ControlEvents {
     bool ClickedByName(QObject* watched, const QMouseEvent& release);
     bool KeyPressed(QObject* watched, int key);
     bool EnterPressed(QWidget* at);
+    bool DeletePressed(QWidget* at);
+    void EscapePressed();
     void FocusArrived(const ControlEntry& control);
     void KeepFocus(const ControlEntry& wanted);
     void Leave();
+    template <class Function>
+    void InEvent(Function function);
+    QWidget* FirstInput() const;
+    void FocusOn(QWidget* place);
 
     FormTable* form_;
     WindowEvents* events_;

@@ -81,7 +81,7 @@ void QtScreen::ShowWindow(FormTable& form, Qt::WindowModality modality) {
     }
     window.raise();
     window.activateWindow();
-    bound.FocusFirst();
+    bound.TakeFocus();
 }
 
 void QtScreen::Present(FormTable& form) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -47,6 +48,11 @@ struct TextBox : Control {
     std::size_t Longest = 0;  ///< characters that can be typed; 0: any number
     bool Typed = false;       ///< the user has changed the text since the form was loaded
     bool ReadOnly = false;    ///< shows only
+
+    void Clear() {
+        Text.clear();
+        Typed = false;
+    }
 };
 
 struct Button : Control {
@@ -90,15 +96,40 @@ struct ComboBox : ItemList {
 
     std::string Text;
     bool Editable = false;
+    std::optional<int> MovedFrom;  ///< the row picked last, while the user has gone on from it without picking another
+    bool Typed = false;            ///< they have done so by typing
 
     void Clear() {
         ItemList::Clear();
         Text.clear();
+        Settle();
     }
     void Select(int index) {
         Index = index;
         Text = Selected() != nullptr ? Selected()->Text : "";
+        Settle();
     }
+    /// Shows another row, which isn't picked by that.
+    void MoveTo(int index) {
+        const int picked = MovedFrom.value_or(Index);
+        Select(index);
+        MovedFrom = picked;
+    }
+    /// Likewise a text; one that stands in the list means its row.
+    void Type(std::string text) {
+        const auto row =
+            std::find_if(Items.begin(), Items.end(), [&](const ListItem& item) { return item.Text == text; });
+        MoveTo(row == Items.end() ? -1 : static_cast<int>(row - Items.begin()));
+        Text = std::move(text);
+        Typed = true;
+    }
+    /// What is shown is what was picked.
+    void Settle() {
+        MovedFrom.reset();
+        Typed = false;
+    }
+    /// Whether the user has gone on to something else than was picked last.
+    bool IsUnsettled() const { return MovedFrom && (Index != *MovedFrom || (Index < 0 && !Text.empty())); }
 };
 
 /// A table. Its view may show the rows in another order; `Index` counts in the order of `Rows`.

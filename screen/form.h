@@ -40,10 +40,11 @@ enum class Event {
     /// Button pressed, menu entry or option chosen, box checked or cleared, list row or calendar day picked, row of a
     /// table opened.
     Click,
-    Change,  ///< text typed into a box; in an editable drop-down list, on leaving it or Enter
+    Change,  ///< text typed into a box; in a drop-down list, on leaving it or Enter, which for a row moved to is a pick
     Leave,   ///< the focus is about to go elsewhere, but not to an exit; a refusal keeps it
+    Move,    ///< another row of a list is selected, by an arrow, the wheel or a click, without being picked by that
     EnterKey,
-    EscapeKey,
+    DeleteKey,
 };
 
 using AnyControl =
@@ -77,7 +78,8 @@ class FormTable {
     std::function<void()> Fill;    ///< asked for by another form, which doesn't know this one
     std::function<void()> Minute;  ///< each minute, while it is loaded: the day may have changed
     std::function<void()> Follow;  ///< after each event of any form, while it is loaded: what it shows may have changed
-    std::function<void()> Close;   ///< what the window's frame and Esc do: the form's own leave button
+    std::function<void()> Close;   ///< what the window's frame does: the form's own leave button
+    std::function<void()> Escape;  ///< Esc, where it has a meaning of its own; nothing: as `Close`
     std::function<void()> Unload;  ///< when its window goes
 
     bool Loaded = false;
@@ -125,12 +127,16 @@ class FormFor {
             return On(Event::Leave, function);
         }
         template <class Function>
+        Row& Move(Function function) {
+            return On(Event::Move, function);
+        }
+        template <class Function>
         Row& EnterKey(Function function) {
             return On(Event::EnterKey, function);
         }
         template <class Function>
-        Row& EscapeKey(Function function) {
-            return On(Event::EscapeKey, function);
+        Row& DeleteKey(Function function) {
+            return On(Event::DeleteKey, function);
         }
         Row& Exit() {
             for (std::size_t i = first_; i < table_->table_.Controls.size(); ++i)
@@ -185,6 +191,7 @@ class FormFor {
     FormFor& Minute(Handler function) { return Hook(table_.Minute, function); }
     FormFor& Follow(Handler function) { return Hook(table_.Follow, function); }
     FormFor& Close(Handler function) { return Hook(table_.Close, function); }
+    FormFor& Escape(Handler function) { return Hook(table_.Escape, function); }
     FormFor& Unload(Handler function) { return Hook(table_.Unload, function); }
 
     FormTable Done() { return std::move(table_); }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 #include <deque>
+#include <optional>
+#include <utility>
 
 #include "core/field_in_work.h"
 #include "screen/screen.h"
@@ -78,6 +80,27 @@ bool AsEvent(FormTable& form, Function function) {
     return passed;
 }
 
+/// Ends what the user has begun in a drop-down list without picking. False if that keeps them there.
+bool LeaveList(FormTable& form, const ControlEntry& control, ComboBox& list) {
+    const bool picks = list.Editable || control.Events.contains(Event::Leave);
+    const bool isUnsettled = list.IsUnsettled();
+    if (isUnsettled && !picks) list.Select(*list.MovedFrom);
+    list.Settle();
+    if (!isUnsettled || !list.Editable) return true;
+    form.Focused = nullptr;
+    RunEvent(form, control, Event::Change);
+    if (form.Focused == &list) return false;  // what was typed is to be set right
+    form.Focused = &list;
+    return true;
+}
+
+/// False if the check of `control` keeps the user there.
+bool LeaveControl(FormTable& form, const ControlEntry& control) {
+    ComboBox* const* list = std::get_if<ComboBox*>(&control.Where);
+    if (list != nullptr && !LeaveList(form, control, **list)) return false;
+    return RunEvent(form, control, Event::Leave);
+}
+
 }  // namespace
 
 ControlEntry* FormTable::Find(std::string_view name) {
@@ -121,6 +144,7 @@ void ShowFilled(FormName name) {
     const bool wasShown = form.Shown;
     if (!Open(form)) return;
     form.Shown = wasShown;  // it comes up when it is filled
+    form.Focused = nullptr;
     try {
         Fill(name);
     } catch (const RunTimeFailure&) {
@@ -130,6 +154,11 @@ void ShowFilled(FormName name) {
     if (!form.Loaded) return;
     form.Shown = true;
     TheScreen().Present(form);
+}
+
+void ShowInPlaceOf(FormName before, FormName form) {
+    Show(form);
+    if (IsLoaded(form)) Hide(before);
 }
 
 void ShowModal(FormName name) {
@@ -149,7 +178,12 @@ void Unload(FormName name) {
     if (!form.Loaded) return;
     form.Loaded = false;
     const bool wasShown = std::exchange(form.Shown, false);
-    if (form.Unload) form.Unload();
+    try {
+        if (form.Unload) form.Unload();
+    } catch (const RunTimeFailure&) {  // the form is over all the same
+        if (wasShown) TheScreen().Withdraw(form);
+        throw;
+    }
     if (wasShown) TheScreen().Withdraw(form);
 }
 
@@ -190,6 +224,30 @@ void CloseForm(FormTable& form) {
     });
 }
 
+bool PressEnter(FormTable& form, const ControlEntry& control) {
+    ComboBox* const* list = std::get_if<ComboBox*>(&control.Where);
+    if (list != nullptr && (*list)->IsUnsettled()) {
+        const Event event = (*list)->Typed ? Event::Change : Event::Click;
+        (*list)->Settle();
+        RunEvent(form, control, event);
+        return true;
+    }
+    if (!control.Events.contains(Event::EnterKey)) return false;
+    RunEvent(form, control, Event::EnterKey);
+    return true;
+}
+
+void PressEscape(FormTable& form) {
+    for (ControlEntry& entry : form.Controls) {
+        Calendar* const* calendar = std::get_if<Calendar*>(&entry.Where);
+        if (calendar == nullptr || !(*calendar)->Visible) continue;
+        (*calendar)->Visible = false;
+        return;
+    }
+    if (!form.Escape) return CloseForm(form);
+    AsEvent(form, [&form] { return form.Escape(), true; });
+}
+
 bool LeaveChecksPass(FormName name) {
     FormTable& form = FormOf(name);
     for (ControlEntry& entry : form.Controls) {
@@ -206,7 +264,7 @@ bool MoveFocus(FormTable& form, const ControlEntry* next) {
     if (next != nullptr && &next->Shared() == form.Focused) return true;
     const bool toExit = next != nullptr && next->IsExit;
     const bool leaves = from != nullptr && from->Shared().Visible && !toExit;
-    if (leaves && !RunEvent(form, *from, Event::Leave)) return false;
+    if (leaves && !LeaveControl(form, *from)) return false;
     form.Focused = next == nullptr ? nullptr : &next->Shared();
     return true;
 }

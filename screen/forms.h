@@ -29,6 +29,9 @@ void Show(FormName name);
 /// there: it ends itself, or the failure ends it.
 void ShowFilled(FormName name);
 
+/// Shows `form` in the place of `before`, which stays where `form` has ended itself while it was loading.
+void ShowInPlaceOf(FormName before, FormName form);
+
 /// As `Show`, and returns when it has been hidden or unloaded again.
 void ShowModal(FormName name);
 
@@ -53,14 +56,23 @@ void Choose(FormTable& form, OptionButton& option);
 /// Tells the forms that wait for it that a minute has passed.
 void MinutePassed();
 
-/// Presses the form's leave button for the user who closes the window by its frame or Esc.
+/// Presses the form's leave button for the user who closes the window by its frame.
 void CloseForm(FormTable& form);
+
+/// The user presses Enter in `control`: that picks the row of a drop-down list to which they have moved, or runs the
+/// function of the key. False where Enter has no meaning there.
+bool PressEnter(FormTable& form, const ControlEntry& control);
+
+/// The user presses Esc: that closes an open calendar and nothing else, or has the meaning that the form has for it.
+void PressEscape(FormTable& form);
 
 /// Repeats the checks of the boxes on `form` that were changed or are empty; for its OK, which a key can reach without
 /// leaving a box. False, with the focus on the box, where one refuses.
 bool LeaveChecksPass(FormName name);
 
-/// The user goes from the control in focus to `next` (null: to none). False if the check of the former refuses.
+/// The user goes from the control in focus to `next` (null: to none). False if the check of the former refuses. A row
+/// of a drop-down list to which they have only moved is picked by that where the list has a check or can be typed into;
+/// elsewhere the list shows the row picked last again.
 bool MoveFocus(FormTable& form, const ControlEntry* next);
 
 }  // namespace veraqua

@@ -1,5 +1,6 @@
 #include "screen/headless.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "screen/overloaded.h"
@@ -43,14 +44,15 @@ At& At::Type(std::string_view box, std::string_view text) {
                           },
                           [&](ComboBox* typed) {
                               if (!typed->Editable) Misuse(*form_, box, "can't be typed into");
-                              typed->Text = text;
-                              typed->Index = -1;
-                              for (int i = 0; i < static_cast<int>(typed->Items.size()); ++i)
-                                  if (typed->Items[static_cast<std::size_t>(i)].Text == text) typed->Index = i;
+                              typed->Type(std::string(text));
                           },
                           [&](auto*) { Misuse(*form_, box, "takes no text"); }},
                control.Where);
-    RunEvent(*form_, control, Event::Change);
+    // A list knows what was typed when it is whole.
+    if (std::holds_alternative<ComboBox*>(control.Where))
+        PressEnter(*form_, control);
+    else
+        RunEvent(*form_, control, Event::Change);
     return *this;
 }
 
@@ -69,14 +71,28 @@ At& At::Pick(std::string_view list, int position) {
     if (!Reach(control)) return *this;
     if (ComboBox* const* combo = std::get_if<ComboBox*>(&control.Where))
         (*combo)->Select(position);
-    else if (ListBox* const* box = std::get_if<ListBox*>(&control.Where))
-        (*box)->Index = position;
+    else if (std::holds_alternative<ListBox*>(control.Where))
+        MoveTo(control, position);
     else if (Table* const* table = std::get_if<Table*>(&control.Where))
         (*table)->Index = position;
     else
         Misuse(*form_, list, "is no list");
     RunEvent(*form_, control, Event::Click);
     return *this;
+}
+
+At& At::Arrow(std::string_view list, int rows) {
+    ControlEntry& control = Usable(list);
+    if (!Reach(control)) return *this;
+    std::visit(Overloaded{[&](ComboBox* box) { MoveTo(control, box->Index + rows); },
+                          [&](ListBox* box) { MoveTo(control, box->Index + rows); },
+                          [&](auto*) { Misuse(*form_, list, "is no list"); }},
+               control.Where);
+    return *this;
+}
+
+At& At::Wheel(std::string_view list, int rows) {
+    return form_->Focused == &Usable(list).Shared() ? Arrow(list, rows) : *this;
 }
 
 At& At::PickDay(std::string_view calendar, JulianValue day) {
@@ -94,7 +110,16 @@ At& At::Enter(std::string_view name) {
 
 At& At::Press(std::string_view name, Event key) {
     ControlEntry& control = Usable(name);
-    if (Reach(control)) RunEvent(*form_, control, key);
+    if (!Reach(control)) return *this;
+    if (key == Event::EnterKey)
+        PressEnter(*form_, control);
+    else
+        RunEvent(*form_, control, key);
+    return *this;
+}
+
+At& At::Escape() {
+    if (form_->Shown) PressEscape(*form_);
     return *this;
 }
 
@@ -109,6 +134,17 @@ ControlEntry& At::Usable(std::string_view name) const {
     if (!form_->Shown) Misuse(*form_, name, "is on a form that isn't shown");
     if (!control->Shared().Visible || !control->Shared().Enabled) Misuse(*form_, name, "is hidden or disabled");
     return *control;
+}
+
+void At::MoveTo(const ControlEntry& list, int row) {
+    const auto within = [row](const ItemList& items) {
+        return std::clamp(row, 0, static_cast<int>(items.Items.size()) - 1);
+    };
+    if (ComboBox* const* combo = std::get_if<ComboBox*>(&list.Where))
+        (*combo)->MoveTo(within(**combo));
+    else if (ListBox* const* box = std::get_if<ListBox*>(&list.Where))
+        (*box)->Index = within(**box);
+    RunEvent(*form_, list, Event::Move);
 }
 
 bool At::Reach(ControlEntry& control) {

@@ -59,11 +59,18 @@ class At {
     At& Click(std::string_view name);
     /// Picks row `position`, from 0, of a list; of a table opens it.
     At& Pick(std::string_view list, int position);
+    /// Goes into a list and `rows` down by its arrow keys, up where negative, without picking.
+    At& Arrow(std::string_view list, int rows = 1);
+    /// Turns the wheel over a list by `rows`, wherever the focus is.
+    At& Wheel(std::string_view list, int rows = 1);
     /// Picks a day in a calendar.
     At& PickDay(std::string_view calendar, JulianValue day);
     /// Goes into a control, which leaves the one before.
     At& Enter(std::string_view name);
+    /// Presses Enter or Delete in a control.
     At& Press(std::string_view name, Event key);
+    /// Presses Esc, wherever the focus is.
+    At& Escape();
     /// Closes the window by its frame.
     At& Close();
 
@@ -74,6 +81,7 @@ class At {
     ControlEntry& Usable(std::string_view name) const;
     /// The user's focus goes to `control`. False if they are held, now or since an earlier step.
     bool Reach(ControlEntry& control);
+    void MoveTo(const ControlEntry& list, int row);
 
     FormTable* form_;
     bool held_ = false;

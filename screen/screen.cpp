@@ -1,5 +1,6 @@
 #include "screen/screen.h"
 
+#include <algorithm>
 #include <cassert>
 
 #include <fmt/format.h>
@@ -41,6 +42,17 @@ JulianValue TypedDay(TextBox& box) {
     const JulianValue day = ValidateDate(TheScreen(), text);
     if (day != 0) box.Text = text;
     return day;
+}
+
+bool MayLeaveTyped(const std::vector<TextBox*>& boxes) {
+    const auto isLost = [](const TextBox* box) { return box->Visible && box->Typed && !box->Text.empty(); };
+    const auto lost = std::ranges::find_if(boxes, isLost);
+    if (lost == boxes.end()) return true;
+    const bool goesBack = TheScreen().YesNo(
+        fmt::format("\"{}\" is typed but not accepted yet.  Do you wish to go back to it?", (*lost)->Text),
+        ProgramTitle, Icon::Question, false);
+    if (goesBack) SelectText(**lost);
+    return !goesBack;
 }
 
 void PrintForm(FormName form, std::string_view failureText) {

@@ -88,6 +88,10 @@ void SelectText(const TextBox& box);
 /// The day typed into `box`, which shows it in long form then; 0, after the user has been told why, if it is none.
 JulianValue TypedDay(TextBox& box);
 
+/// Whether the user may leave `boxes`: asks once where something typed there since they were taken last would be lost.
+/// Where they stay, the keyboard is on it.
+bool MayLeaveTyped(const std::vector<TextBox*>& boxes);
+
 /// How a form that has words of its own tells that it can't be printed.
 constexpr std::string_view CannotPrintForm = "The form can't be printed.";
 

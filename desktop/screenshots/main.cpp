@@ -95,7 +95,7 @@ class Photographer {
             menu.Click(panel);
             Take(FormName::frmField, panel);
         }
-        menu.Press("comboCrops", Event::EscapeKey);
+        menu.Escape();
         for (const char* background : {"mgeese1", "mgeese2", "mfield"}) {
             menu.Click(background);
             Take(FormName::frmField, background);

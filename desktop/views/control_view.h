@@ -15,9 +15,6 @@ class ControlEvents {
     /// The user is about to use `control`. False where the check of the one they come from keeps them there.
     virtual bool Reach(const ControlEntry& control) = 0;
 
-    /// Whether the keyboard has gone to an exit: what was typed by half is left behind.
-    virtual bool IsLeaving() const = 0;
-
     /// Runs an event of `control` after the user has reached it.
     virtual void Happened(const ControlEntry& control, Event event) = 0;
 

@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
@@ -132,38 +131,60 @@ bool SameRows(const ItemList& record, int count, const std::function<QString(int
     return true;
 }
 
+/// Tells a row that the keys or the wheel have come to in a closed list from one that is picked: to the toolkit both
+/// are the same. Without the focus the wheel has no meaning there.
+class RowMoves : public QObject {
+  public:
+    explicit RowMoves(QComboBox& box) : QObject(&box), box_(&box) { box.installEventFilter(this); }
+
+    bool IsMoving() const { return isMoving_; }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool isWheel = event->type() == QEvent::Wheel;
+        if (!isWheel && event->type() != QEvent::KeyPress) return false;
+        isMoving_ = true;
+        if (!isWheel || box_->hasFocus())
+            static_cast<QObject*>(box_)->event(event);
+        else
+            event->ignore();  // it is for what the list stands in
+        isMoving_ = false;
+        return true;
+    }
+
+  private:
+    QComboBox* box_;
+    bool isMoving_ = false;
+};
+
 class ComboView : public WidgetView<ComboBox, QComboBox> {
   public:
     ComboView(ControlEntry& entry, ComboBox& box, QComboBox& shown, ControlEvents& events)
-        : WidgetView(entry, box, shown, events) {
+        : WidgetView(entry, box, shown, events), moves_(new RowMoves(shown)) {
         shown.setInsertPolicy(QComboBox::NoInsert);
         shown.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         QObject::connect(&shown, &QComboBox::activated, &shown, [this](int index) { TakeRow(index); });
         shown.setEditable(box.Editable);
         if (shown.lineEdit() == nullptr) return;
         shown.lineEdit()->setValidator(Latin1Only(shown.lineEdit()));
-        QObject::connect(shown.lineEdit(), &QLineEdit::editingFinished, &shown, [this] { TakeText(); });
-        QObject::connect(shown.lineEdit(), &QLineEdit::textEdited, &shown, [this] { isTyped_ = true; });
-        QObject::connect(shown.view(), &QAbstractItemView::pressed, &shown, [this] { isTyped_ = false; });
+        QObject::connect(shown.lineEdit(), &QLineEdit::textEdited, &shown, [this](const QString& text) {
+            Record().Type(FromQt(text));
+            Typed(Event::Move);
+        });
+        // The toolkit completes behind what was typed.
+        QObject::connect(shown.lineEdit(), &QLineEdit::textChanged, &shown, [this](const QString& text) {
+            if (!IsBringing() && Record().Typed) Record().Type(FromQt(text));
+        });
     }
 
   private:
-    /// The toolkit picks the row of a name that was typed, too, but that is a changed text.
     void TakeRow(int index) {
-        if (isTyped_) return TakeText();
-        Picked([this, index] { Record().Select(index); });
-    }
-
-    /// What was typed counts once it is whole. A text that stands in the list means its row.
-    void TakeText() {
-        const QString text = Shown().currentText();
-        if (IsBringing() || IsLeaving() || text == ToQt(Record().Text)) return;
-        Picked(
-            [&] {
-                Record().Text = FromQt(text);
-                Record().Index = Shown().findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive);
-            },
-            Event::Change);
+        const bool isTyped = Record().Typed && ToQt(Record().Text) == Shown().itemText(index);
+        if (isTyped) return;  // the toolkit has found the row, which is taken when the list is left
+        if (moves_->IsMoving())
+            Picked([this, index] { Record().MoveTo(index); }, Event::Move);
+        else
+            Picked([this, index] { Record().Select(index); });
     }
 
     void BringOwn() override {
@@ -171,21 +192,24 @@ class ComboView : public WidgetView<ComboBox, QComboBox> {
             Shown().clear();
             for (const ListItem& item : Record().Items) Shown().addItem(ToQt(item.Text));
         }
+        QLineEdit* const line = Shown().lineEdit();
+        const int cursor = line == nullptr ? 0 : line->cursorPosition();
         Shown().setCurrentIndex(Record().Index);
-        if (Record().Editable) Shown().setEditText(ToQt(Record().Text));
-        isTyped_ = false;
+        if (line == nullptr || line->text() == ToQt(Record().Text)) return;
+        line->setText(ToQt(Record().Text));
+        line->setCursorPosition(cursor);
     }
 
-    bool isTyped_ = false;  ///< what stands there now
+    RowMoves* moves_;
 };
 
 class ListView : public WidgetView<ListBox, QListWidget> {
   public:
     ListView(ControlEntry& entry, ListBox& list, QListWidget& shown, ControlEvents& events)
         : WidgetView(entry, list, shown, events) {
-        QObject::connect(&shown, &QListWidget::currentRowChanged, &shown, [this](int row) {
-            if (!IsBringing()) Record().Index = row;
-        });
+        // By the keyboard the focus alone makes a row the current one, but doesn't select it.
+        QObject::connect(&shown, &QListWidget::itemSelectionChanged, &shown,
+                         [this] { Picked([this] { Record().Index = RowSelected(); }, Event::Move); });
         if (shown.property("newestLast").toBool())
             QObject::connect(shown.verticalScrollBar(), &QScrollBar::rangeChanged, &shown,
                              &QListWidget::scrollToBottom);
@@ -195,6 +219,8 @@ class ListView : public WidgetView<ListBox, QListWidget> {
     }
 
   private:
+    int RowSelected() const { return Shown().selectedItems().isEmpty() ? -1 : Shown().currentRow(); }
+
     void PickCurrent() {
         Picked([this] { Record().Index = Shown().currentRow(); });
     }
@@ -204,7 +230,9 @@ class ListView : public WidgetView<ListBox, QListWidget> {
             Shown().clear();
             for (const ListItem& item : Record().Items) Shown().addItem(ToQt(item.Text));
         }
-        if (Shown().currentRow() != Record().Index) Shown().setCurrentRow(Record().Index);
+        if (RowSelected() == Record().Index) return;
+        Shown().clearSelection();
+        if (Record().Index >= 0) Shown().setCurrentRow(Record().Index);
     }
 };
 

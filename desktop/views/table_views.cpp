@@ -158,10 +158,11 @@ class TableView : public WidgetView<Table, QTableView> {
         QObject::connect(&shown, &QTableView::activated, &shown, [this](const QModelIndex& index) {
             Picked([&] { Record().Index = parts_.RecordRowOf(index); });
         });
-        QObject::connect(shown.selectionModel(), &QItemSelectionModel::currentRowChanged, &shown,
-                         [this](const QModelIndex& current) {
-                             if (!IsBringing()) Record().Index = parts_.RecordRowOf(current);
-                         });
+        // By the keyboard the focus alone makes a row the current one, but doesn't select it.
+        QObject::connect(shown.selectionModel(), &QItemSelectionModel::selectionChanged, &shown, [this] {
+            const QModelIndexList rows = Shown().selectionModel()->selectedRows();
+            if (!IsBringing()) Record().Index = rows.isEmpty() ? -1 : parts_.RecordRowOf(rows.front());
+        });
         for (QWidget* place : {static_cast<QWidget*>(&shown), static_cast<QWidget*>(shown.horizontalHeader())}) {
             place->setContextMenuPolicy(Qt::CustomContextMenu);
             QObject::connect(place, &QWidget::customContextMenuRequested, &shown,

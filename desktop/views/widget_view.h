@@ -35,8 +35,6 @@ class WidgetView : public ControlView {
     /// Whether a signal comes from the program, not from the user.
     bool IsBringing() const { return bringing_; }
 
-    bool IsLeaving() const { return events_->IsLeaving(); }
-
     /// Takes what the user has picked into the record by `take`, and runs the event.
     template <class Take>
     void Picked(Take take, Event event = Event::Click) {
@@ -48,9 +46,9 @@ class WidgetView : public ControlView {
     void Clicked() {
         Picked([] {});
     }
-    void Typed() {
+    void Typed(Event event = Event::Change) {
         events_->Typed(*entry_);
-        events_->Happened(*entry_, Event::Change);
+        events_->Happened(*entry_, event);
     }
 
   private:

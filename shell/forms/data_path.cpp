@@ -72,9 +72,9 @@ FormTable TableOf(frmPath& form) {
     table.Add("cmd_Empty", form.cmd_Empty).Click(cmd_Empty_Click);
     table.Add("cmd_Find", form.cmd_Find).Click(cmd_Find_Click);
     table.Add("lblInstructions", form.lblInstructions);
-    table.Add("Drive1", form.Drive1).Click(Drive1_Click);
+    table.Add("Drive1", form.Drive1).Click(Drive1_Click).EnterKey(cmd_OK_Click);
     table.Add("Dir1", form.Dir1).Click(Dir1_Click);
-    table.Add("File1", form.File1);
+    table.Add("File1", form.File1).EnterKey(cmd_OK_Click);
     table.Add("lblNew", form.lblNew);
     table.Add("lblPath", form.lblPath);
     table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);

@@ -70,10 +70,7 @@ void Load(frmVeraqua& form) {
 }
 
 /// Brings another window up in the place of this one.
-void GoTo(FormName form) {
-    Show(form);
-    Hide(FormName::frmVeraqua);
-}
+void GoTo(FormName form) { ShowInPlaceOf(FormName::frmVeraqua, form); }
 
 void cmdfields_Click(frmVeraqua&) {
     GoTo(FormName::frmField);
@@ -163,6 +160,11 @@ void Minute(frmVeraqua& form) {
     ShowToday(form);
 }
 
+/// Esc is pressed by mistake more easily than the button.
+void Escape(frmVeraqua& form) {
+    if (TheScreen().YesNo("Do you want to leave Veraqua?", ProgramTitle, Icon::Question, true)) cmdExit_Click(form);
+}
+
 void Unloaded(frmVeraqua&) {
     State.CallerForm.clear();  // no window goes back to this one
     for (const FormName form : {FormName::frmWeather, FormName::frmKESTA, FormName::frmField, FormName::frmFieldData,
@@ -208,7 +210,7 @@ FormTable TableOf(frmVeraqua& form) {
     table.Add("mnuHelp", form.mnuHelp);
     table.Add("mnuAbout", form.mnuAbout).Click(mnuAbout_Click);
     table.Add("StatusBar1", form.StatusBar1);
-    table.Load(Load).Appear(Appear).Fill(ShowToday).Minute(Minute).Close(cmdExit_Click).Unload(Unloaded);
+    table.Load(Load).Appear(Appear).Fill(ShowToday).Minute(Minute).Close(cmdExit_Click).Escape(Escape).Unload(Unloaded);
     return table.Done();
 }
 

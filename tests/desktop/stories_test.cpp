@@ -12,12 +12,14 @@
 #include <QStatusBar>
 #include <QTableView>
 #include <QTcpServer>
+#include <QWheelEvent>
 #include <algorithm>
 #include <map>
 #include <utility>
 
 #include <gmock/gmock.h>
 
+#include "core/directory.h"
 #include "desktop/manual/manual_page.h"
 #include "desktop/window_place.h"
 #include "tests/desktop/window_test.h"
@@ -48,6 +50,14 @@ struct StoriesTest : WindowTest {
         StartWithSample();
         Settle();
         return The<QTableView>(FormName::frmVeraqua, "Today");
+    }
+
+    /// Turns the wheel over `widget` by one notch.
+    static void Turn(QWidget& widget) {
+        const QPointF at = widget.rect().center();
+        QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&widget, &event);
     }
 
     /// The workbench with the field in `row` of the directory.
@@ -165,6 +175,58 @@ TEST_F(StoriesTest, EnterAloneConfirmsNoDeletionOfAField) {
     EXPECT_EQ(State.FieldCount, fields - 1);
 }
 
+TEST_F(StoriesTest, KeysAndTheWheelMoveInAListAndEnterPicks) {
+    Today();
+    Click(FormName::frmVeraqua, "cmdfields");
+    Choose(FormName::frmField, "mnuSelect");
+    auto& fields = The<QComboBox>(FormName::frmField, "ComboField");
+    for (int i = 0; i < 2; ++i) QTest::keyClick(&fields, Qt::Key_Down);
+    Turn(fields);
+    Settle();
+    EXPECT_EQ(fields.currentIndex(), 2);
+    EXPECT_EQ(State.CurrentField, 0);
+    QTest::keyClick(&fields, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(State.CurrentField, RowsInUse().at(2));
+    EXPECT_FALSE(The(FormName::frmField, "cmd_return").hasFocus()) << "Enter would leave the field";
+    Press(FormName::frmField, "cmd_return", Qt::Key_Escape);
+    Click(FormName::frmVeraqua, "cmdWeather");
+    Choose(FormName::frmWeather, "mnu_KESTAloc");
+    The(FormName::frmWeather, "Cmd_Exit").setFocus();
+    Settle();
+    auto& stations = The<QComboBox>(FormName::frmWeather, "ComboKESTA");
+    const int before = stations.currentIndex();
+    Turn(stations);
+    Settle();
+    EXPECT_TRUE(stations.currentIndex() == before && !stations.hasFocus());
+    Press(FormName::frmWeather, "Cmd_Exit", Qt::Key_Escape);
+    Press(FormName::frmVeraqua, "cmdfields", Qt::Key_Escape);
+    EXPECT_EQ(LastSaid(), "Veraqua: Do you want to leave Veraqua?");
+    EXPECT_TRUE(IsUp(FormName::frmVeraqua));
+}
+
+TEST_F(StoriesTest, EachFormBeginsAtItsFirstBoxHoweverItWasLeft) {
+    OpenField(1);
+    for (int opened = 0; opened < 2; ++opened) {
+        Choose(FormName::frmField, "mnuAdd");
+        EXPECT_EQ(QApplication::focusWidget(), &The(FormName::frmAddWater, "txtRainDate")) << opened;
+        Click(FormName::frmAddWater, "cmdReturn");
+        EXPECT_EQ(QApplication::focusWidget(), &The(FormName::frmFieldData, "cmdExit")) << opened;
+        The(FormName::frmFieldData, "cmdPrint").setFocus();
+        Settle();
+    }
+    Click(FormName::frmFieldData, "cmdExit");
+    Choose(FormName::frmField, "mnu_MAD");
+    Press(FormName::frmField, "cmdMADOK", Qt::Key_Escape);
+    EXPECT_FALSE(The(FormName::frmField, "txtNewMAD").isVisible());
+    EXPECT_TRUE(IsUp(FormName::frmField));
+    EXPECT_FALSE(The(FormName::frmField, "cmd_return").hasFocus());
+    Choose(FormName::frmField, "m_displays");
+    QTest::keyClick(Window(FormName::frmGraphs).findChild<QWidget*>("cmd_Select"), Qt::Key_Escape);
+    Settle();
+    EXPECT_TRUE(IsUp(FormName::frmField) && !IsUp(FormName::frmGraphs));
+}
+
 TEST_F(StoriesTest, WaterIsTypedAndWhatIsRefusedIsSaidAtTheBox) {
     OpenField(1);
     Choose(FormName::frmField, "mnuAdd");
@@ -264,6 +326,8 @@ TEST_F(StoriesTest, UnitsAndTheDayAreChosenAndHoldInEveryWindow) {
     EXPECT_EQ(FromQt(The<QLineEdit>(FormName::frmConfig, "txtDate").text()), "07-10-2025");
     Click(FormName::frmConfig, "cmdOK");
     EXPECT_EQ(Screen.Now(), JulianFromDate(7, 10, 2025));
+    Press(FormName::frmConfig, "txtDate", Qt::Key_Escape);
+    EXPECT_TRUE(!calendar.isVisible() && IsUp(FormName::frmConfig));
     Press(FormName::frmConfig, "Cmd_Exit", Qt::Key_Escape);
     EXPECT_TRUE(IsUp(FormName::frmVeraqua));
     const auto* model = The<QTableView>(FormName::frmVeraqua, "Today").model();

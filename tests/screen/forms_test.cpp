@@ -21,6 +21,12 @@ struct frmEntry : Form {
     TextBox txtAmount;
     TextBox txtNote{"dry"};
     OptionButton optRain{"Rain", true}, optIrrigation{"Irrigation"};
+    ComboBox comboCrop, comboStation{true};
+    Calendar Cal1;
+    frmEntry() {
+        Cal1.Visible = false;
+        for (const char* row : {"Maize", "Alfalfa", "Beans"}) comboCrop.Add(row), comboStation.Add(row);
+    }
     Button cmdOK{"OK"}, cmdDelete{"DELETE"}, cmdCancel{"CANCEL"};
 };
 
@@ -46,6 +52,14 @@ FormTable TableOf(frmEntry& form) {
     table.Add("txtNote", form.txtNote).Leave(+[](frmEntry& f) { return CheckedNumber(f.txtNote, "txtNote"); });
     table.Add("optRain", form.optRain);
     table.Add("optIrrigation", form.optIrrigation).Click(+[](frmEntry&) { happened.emplace_back("irrigation"); });
+    table.Add("comboCrop", form.comboCrop).Click(+[](frmEntry& f) {
+        happened.push_back(f.comboCrop.Text + " picked");
+    });
+    table.Add("comboStation", form.comboStation).Change(+[](frmEntry& f) {
+        happened.push_back(f.comboStation.Text + " typed");
+        if (f.comboStation.Selected() == nullptr) Focus(f.comboStation);
+    });
+    table.Add("Cal1", form.Cal1);
     table.Add("cmdOK", form.cmdOK).Click(+[](frmEntry&) {
         if (LeaveChecksPass(FormName::frmAddWater)) happened.emplace_back("recorded");
     });
@@ -187,6 +201,49 @@ TEST_F(FormsTest, OkRepeatsTheChecksOfBoxesThatWereChangedOrAreEmpty) {
     Entry.txtNote.Visible = false;
     ok();
     EXPECT_THAT(Happened(), ElementsAre("txtAmount checked", "recorded")) << "nobody can mend what is hidden";
+}
+
+TEST_F(FormsTest, ARowThatIsOnlyMovedToIsNoPick) {
+    At entry = Opened();
+    entry.Wheel("comboCrop");
+    EXPECT_EQ(Entry.comboCrop.Index, -1) << "the focus is elsewhere";
+    entry.Arrow("comboCrop", 2).Enter("txtDay");
+    EXPECT_EQ(Entry.comboCrop.Index, -1) << "left without a pick";
+    entry.Arrow("comboCrop").Wheel("comboCrop");
+    EXPECT_THAT(Happened(), IsEmpty());
+    entry.Press("comboCrop", Event::EnterKey).Arrow("comboCrop").Enter("txtDay");
+    EXPECT_THAT(Happened(), ElementsAre("Alfalfa picked"));
+    EXPECT_EQ(Entry.comboCrop.Text, "Alfalfa");
+    EXPECT_FALSE(PressEnter(Table, *Table.Find("comboCrop"))) << "nothing is left to pick";
+    // One that can be typed into takes what it shows when it is left, but not on the way to an exit.
+    entry.Arrow("comboStation").Enter("txtDay");
+    EXPECT_THAT(Happened(), ElementsAre("Maize typed"));
+    entry.Enter("comboStation");
+    Entry.comboStation.Type("Bea");
+    entry.Enter("txtDay");
+    EXPECT_THAT(Happened(), ElementsAre("Bea typed"));
+    EXPECT_TRUE(entry.Held() && Table.Focused == &Entry.comboStation);
+    Entry.comboStation.Type("Be");
+    At(FormName::frmAddWater).Click("cmdCancel");
+    EXPECT_THAT(Happened(), ElementsAre("Unload", "Withdraw frmEntry"));
+}
+
+TEST_F(FormsTest, EscClosesAnOpenCalendarBeforeItClosesTheForm) {
+    At entry = Opened();
+    Entry.Cal1.Visible = true;
+    entry.Escape();
+    EXPECT_TRUE(Table.Shown && !Entry.Cal1.Visible);
+    entry.Escape();
+    EXPECT_FALSE(Table.Shown);
+}
+
+TEST_F(FormsTest, AFormThatFailsAtItsEndIsGoneAllTheSame) {
+    Opened();
+    Table.Unload = [] { throw RunTimeFailure("The disk is full."); };
+    At(FormName::frmAddWater).Click("cmdCancel");
+    Table.Unload = nullptr;
+    EXPECT_THAT(Happened(), ElementsAre("Withdraw frmEntry"));
+    EXPECT_THAT(User.Failures, ElementsAre("The disk is full."));
 }
 
 TEST_F(FormsTest, AUserCanOnlyUseWhatIsThereAndOneOptionOfAGroup) {

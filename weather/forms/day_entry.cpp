@@ -103,6 +103,7 @@ JulianValue EntryDayTyped(frmWeather& form) {
 /// Takes `day` for the one that is being entered, with the weather that it has.
 void TakeDay(frmWeather& form, JulianValue day) {
     form.EntryDay = day;
+    form.txtDate.Typed = false;
     const DayInYear place = DayOfYearFromJulian(day);
     form.Entered = WeatherFile(State.StationCode, place.Year).Day(place.DayOfYear);
 }
@@ -136,6 +137,7 @@ void mnu_enter_Click(frmWeather& form) {
                                                             &form.cmd_Calendar, &form.txtDate, &form.cmd_DateOK})
         control->Visible = true;
     form.txtDate.Text = JulianToLongText(std::min(TheScreen().Now(), State.TodayJulian) - 1);
+    form.txtDate.Typed = false;
     Focus(form.txtDate);
 }
 

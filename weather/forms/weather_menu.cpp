@@ -1,6 +1,7 @@
 #include "weather/forms/weather_menu.h"
 
 #include <initializer_list>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -118,7 +119,11 @@ void Unloaded(frmWeather& form) {
     if (State.CallerForm == MainMenu) Show(FormName::frmVeraqua);
 }
 
-void Leave(frmWeather&) { Unload(FormName::frmWeather); }
+void Leave(frmWeather& form) {
+    std::vector<TextBox*> boxes{&form.txtDate};
+    for (TextBox& box : form.txt_w) boxes.push_back(&box);
+    if (MayLeaveTyped(boxes)) Unload(FormName::frmWeather);
+}
 
 /// Another station is in work: nothing of the one before stays on the screen, nor the list that it was picked from.
 void ShowStationPicked(frmWeather& form) {

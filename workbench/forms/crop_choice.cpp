@@ -67,8 +67,7 @@ void cmd_OK_Click(frmField& form) {
     }
     SetEntryVisible(form, false);
     ReadCrop(TheScreen(), form.CropPicked);
-    Show(FormName::frmLoadField);
-    Hide(FormName::frmField);
+    ShowInPlaceOf(FormName::frmField, FormName::frmLoadField);
     FieldInfo(form);
 }
 

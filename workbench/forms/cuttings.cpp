@@ -18,10 +18,16 @@ namespace veraqua {
 
 namespace {
 
+/// Delete is there where a row is selected or a day is typed.
+void OfferDelete(frmCuts& form) {
+    form.cmdDelete.Enabled = form.ListCuts.Selected() != nullptr || !form.txtCutAdd.Text.empty();
+}
+
 void ShowAll(frmCuts& form) {
     form.ListCuts.Clear();
     for (const EventRecord& cut : form.CutEvents)
         form.ListCuts.Add(fmt::format("{}   ..........   #{}", JulianToShortText(cut.Day), cut.Amount), cut.Day);
+    OfferDelete(form);
     const StatRecord& row = State.Stat[State.CurrentField];
     const PredictionText irrigation = CutPrediction(row, State.EnglishUnits);
     form.txtCutDate.Text = NextCutting(row);
@@ -43,12 +49,18 @@ void Follow(frmCuts& form, const OrRefused<FieldChange>& outcome) {
         ShowChange(form, *outcome);
         form.Recorded = true;
     }
-    Focus(!outcome.IsDone() && outcome.Why().Where == Given::CutNumber ? form.txtCutNumber : form.txtCutAdd);
+    if (outcome.IsDone()) return SelectText(form.txtCutAdd);  // the next one is typed over it
+    Focus(outcome.Why().Where == Given::CutNumber ? form.txtCutNumber : form.txtCutAdd);
 }
 
 void cmdOKCut_Click(frmCuts& form) {
     const JulianValue day = TypedDay(form.txtCutAdd);
-    Follow(form, RecordCutting(TheScreen(), day, Numeric(form.txtCutNumber.Text)));
+    const OrRefused<FieldChange> outcome = RecordCutting(TheScreen(), day, Numeric(form.txtCutNumber.Text));
+    if (outcome.IsDone()) {
+        form.txtCutNumber.Clear();
+        form.txtCutAdd.Typed = false;
+    }
+    Follow(form, outcome);
 }
 
 void cmdDelete_Click(frmCuts& form) {
@@ -56,19 +68,34 @@ void cmdDelete_Click(frmCuts& form) {
     const JulianValue day = selected != nullptr ? selected->Data : TypedDay(form.txtCutAdd);
     const OrRefused<FieldChange> outcome = RemoveCutting(TheScreen(), day);
     const bool wasLookedFor = outcome.IsDone() || outcome.Why().Where == Given::Entry;
+    if (outcome.IsDone() && selected == nullptr) form.txtCutAdd.Typed = false;
     if (wasLookedFor) return Follow(form, outcome);
     Tell(TheScreen(), outcome.Why());
+}
+
+/// A day typed after a row was selected is the one that is meant.
+void txtCutAdd_Change(frmCuts& form) {
+    form.ListCuts.Index = -1;
+    OfferDelete(form);
+}
+
+void ListCuts_Move(frmCuts& form) { OfferDelete(form); }
+
+void ListCuts_Delete(frmCuts& form) {
+    if (form.ListCuts.Selected() != nullptr) cmdDelete_Click(form);
 }
 
 void txtCutAdd_Enter(frmCuts& form) { Focus(form.txtCutNumber); }
 
 void cmdReturn_Click(frmCuts& form) {
+    if (!MayLeaveTyped({&form.txtCutAdd, &form.txtCutNumber})) return;
     if (!form.Recorded) TheScreen().Tell("No cuttings to update");
     Unload(FormName::frmCuts);
     ShowFieldData();
 }
 
 void cmdCancel_Click(frmCuts& form) {
+    if (!MayLeaveTyped({&form.txtCutAdd, &form.txtCutNumber})) return;
     form.Cancelled = true;
     Unload(FormName::frmCuts);
 }
@@ -97,12 +124,12 @@ FormTable TableOf(frmCuts& form) {
     FormFor table(form, FormName::frmCuts, "frmCuts");
     table.Add("lblCutAdd", form.lblCutAdd);
     table.Add("lblFormat", form.lblFormat);
-    table.Add("txtCutAdd", form.txtCutAdd).EnterKey(txtCutAdd_Enter);
+    table.Add("txtCutAdd", form.txtCutAdd).Change(txtCutAdd_Change).EnterKey(txtCutAdd_Enter);
     table.Add("lblCutNumber", form.lblCutNumber);
     table.Add("txtCutNumber", form.txtCutNumber).EnterKey(cmdOKCut_Click);
     table.Add("cmdOKCut", form.cmdOKCut).Click(cmdOKCut_Click);
     table.Add("lblCuts", form.lblCuts);
-    table.Add("ListCuts", form.ListCuts);
+    table.Add("ListCuts", form.ListCuts).Move(ListCuts_Move).DeleteKey(ListCuts_Delete);
     table.Add("cmdDelete", form.cmdDelete).Click(cmdDelete_Click);
     table.Add("box_predictions", form.box_predictions);
     table.Add("lblNextCut", form.lblNextCut);

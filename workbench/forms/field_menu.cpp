@@ -38,12 +38,16 @@ void Unload(frmField&) {
 void Leave(frmField&) { Unload(FormName::frmField); }
 
 /// Opens a window of the field in work in the place of the workbench.
-void ChangeTo(FormName form) {
-    Show(form);
-    Hide(FormName::frmField);
-}
+void ChangeTo(FormName form) { ShowInPlaceOf(FormName::frmField, form); }
 
 void cmd_Cancel_Click(frmField& form) { SelectNothing(form); }
+
+/// Esc gives up what the user has begun on the workbench; where that is nothing, it leaves it.
+void Escape(frmField& form) {
+    if (form.cmd_Cancel.Visible || form.ComboField.Visible) return cmd_Cancel_Click(form);
+    if (form.ShapeDepl.Visible || form.ShapeMAD.Visible || form.ShapeIRR.Visible) return form_clear(form);
+    Leave(form);
+}
 
 void MnuPred_Click(frmField&) {
     if (!ExpectField()) return;
@@ -131,11 +135,11 @@ using MenuTable = FormFor<frmField>;
 
 void AddChoice(MenuTable& table, frmField& form) {
     table.Add("lblField", form.lblField);
-    table.Add("ComboField", form.ComboField).Click(ComboField_Click).EscapeKey(cmd_Cancel_Click);
+    table.Add("ComboField", form.ComboField).Click(ComboField_Click);
     table.Add("lblCrops", form.lblCrops);
-    table.Add("comboCrops", form.comboCrops).Click(comboCrops_Click).EscapeKey(cmd_Cancel_Click);
+    table.Add("comboCrops", form.comboCrops).Click(comboCrops_Click);
     table.Add("Lbl_Soils", form.Lbl_Soils);
-    table.Add("Combo_Soils", form.Combo_Soils).Click(Combo_Soils_Click).EscapeKey(cmd_Cancel_Click);
+    table.Add("Combo_Soils", form.Combo_Soils).Click(Combo_Soils_Click);
     table.Add("lbl_initialize", form.lbl_initialize);
     table.Add("cmd_OK", form.cmd_OK).Click(cmd_OK_Click);
     table.Add("cmd_Cancel", form.cmd_Cancel).Click(cmd_Cancel_Click).Exit();
@@ -168,7 +172,7 @@ void AddDepletionPanel(MenuTable& table, frmField& form) {
     table.Add("lblDeplVal", form.lblDeplVal);
     table.Add("lblRootWater", form.lblRootWater);
     table.Add("lblNewDepl", form.lblNewDepl);
-    table.Add("TxtNewDepl", form.TxtNewDepl).EscapeKey(form_clear);
+    table.Add("TxtNewDepl", form.TxtNewDepl);
     table.Add("cmdDeplOK", form.cmdDeplOK).Click(cmdDeplOK_Click);
     table.Add("cmdDeplCanc", form.cmdDeplCanc).Click(form_clear).Exit();
     table.Add("lbl_reset", form.lbl_reset);
@@ -179,10 +183,10 @@ void AddMadPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeMAD", form.ShapeMAD);
     table.Add("lblCurrMAD", form.lblCurrMAD);
     table.Add("lblNewMAD", form.lblNewMAD);
-    table.Add("txtNewMAD", form.txtNewMAD).EscapeKey(form_clear);
+    table.Add("txtNewMAD", form.txtNewMAD);
     table.Add("lblCurrMADC", form.lblCurrMADC);
     table.Add("lblNewMADC", form.lblNewMADC);
-    table.Add("txtNewMADC", form.txtNewMADC).EscapeKey(form_clear);
+    table.Add("txtNewMADC", form.txtNewMADC);
     table.Add("cmdMADOK", form.cmdMADOK).Click(cmdMADOK_Click);
     table.Add("cmdMADCanc", form.cmdMADCanc).Click(form_clear).Exit();
 }
@@ -191,7 +195,7 @@ void AddEfficiencyPanel(MenuTable& table, frmField& form) {
     table.Add("ShapeIRR", form.ShapeIRR);
     table.Add("lblCurrIRR", form.lblCurrIRR);
     table.Add("lblNewIRR", form.lblNewIRR);
-    table.Add("TxtNewIRR", form.TxtNewIRR).EscapeKey(form_clear);
+    table.Add("TxtNewIRR", form.TxtNewIRR);
     table.Add("cmdIRROK", form.cmdIRROK).Click(cmdIRROK_Click);
     table.Add("cmdIRRCanc", form.cmdIRRCanc).Click(form_clear).Exit();
 }
@@ -264,7 +268,7 @@ FormTable TableOf(frmField& form) {
     AddFieldMenus(table, form);
     AddReportMenus(table, form);
     AddOtherMenus(table, form);
-    table.Load(Load).Appear(ShowFieldNow).Fill(SelectField).Follow(ShowFieldNow).Close(Leave).Unload(Unload);
+    table.Load(Load).Appear(ShowFieldNow).Fill(SelectField).Follow(ShowFieldNow).Close(Leave).Escape(Escape).Unload(Unload);
     return table.Done();
 }
 

@@ -26,6 +26,7 @@ struct Side {
     TextBox& Date;
     TextBox& Amount;
     ListBox& List;
+    Button& Delete;
     TextBox& Total;
     std::vector<EventRecord>& Events;
     float& TotalMm;
@@ -33,13 +34,13 @@ struct Side {
 };
 
 Side RainOf(frmAddWater& form) {
-    return {form.txtRainDate, form.txtRainfall, form.ListRain, form.txtRAIN,
-            form.RainEvents,  State.RainTotal,  Water::Rain};
+    return {form.txtRainDate, form.txtRainfall, form.ListRain,   form.cmdDeleteR,
+            form.txtRAIN,     form.RainEvents,  State.RainTotal, Water::Rain};
 }
 
 Side IrrigationOf(frmAddWater& form) {
-    return {form.txtIrrAdd, form.txtIrrigation,    form.ListIrr,     form.txtIRR,
-            form.IrrEvents, State.IrrigationTotal, Water::Irrigation};
+    return {form.txtIrrAdd, form.txtIrrigation, form.ListIrr,          form.cmdDeleteI,
+            form.txtIRR,    form.IrrEvents,     State.IrrigationTotal, Water::Irrigation};
 }
 
 std::string AmountText(double mm) {
@@ -53,6 +54,9 @@ std::string StoredText(double mm) {
     return hundredths == Masked(mm / MillimetresPerInch, "0.0") + "0" ? "" : fmt::format("  ({})", hundredths);
 }
 
+/// Delete is there where a row is selected or a day is typed.
+void OfferDelete(const Side& side) { side.Delete.Enabled = side.List.Selected() != nullptr || !side.Date.Text.empty(); }
+
 void ShowSide(const Side& side) {
     side.List.Clear();
     for (const EventRecord& event : side.Events)
@@ -60,6 +64,7 @@ void ShowSide(const Side& side) {
                       event.Day);
     side.TotalMm = TotalAmount(side.Events);
     side.Total.Text = AmountText(side.TotalMm);
+    OfferDelete(side);
 }
 
 void ShowPrediction(frmAddWater& form) {
@@ -103,14 +108,20 @@ void Follow(frmAddWater& form, const Side& side, const OrRefused<FieldChange>& o
         ShowChange(form, *outcome);
         form.Recorded = true;
     }
-    Focus(!outcome.IsDone() && outcome.Why().Where == Given::Amount ? side.Amount : side.Date);
+    if (outcome.IsDone()) return SelectText(side.Date);  // the next one is typed over it
+    Focus(outcome.Why().Where == Given::Amount ? side.Amount : side.Date);
 }
 
 void Record(frmAddWater& form, const Side& side) {
     const JulianValue day = TypedDay(side.Date);
     std::optional<double> amount = Numeric(side.Amount.Text);
     if (amount && State.EnglishUnits) *amount *= MillimetresPerInch;
-    Follow(form, side, RecordWater(TheScreen(), side.Kind, day, amount));
+    const OrRefused<FieldChange> outcome = RecordWater(TheScreen(), side.Kind, day, amount);
+    if (outcome.IsDone()) {
+        side.Amount.Clear();
+        side.Date.Typed = false;
+    }
+    Follow(form, side, outcome);
 }
 
 void Delete(frmAddWater& form, const Side& side) {
@@ -118,8 +129,24 @@ void Delete(frmAddWater& form, const Side& side) {
     const JulianValue day = selected != nullptr ? selected->Data : TypedDay(side.Date);
     const OrRefused<FieldChange> outcome = RemoveWater(TheScreen(), side.Kind, day);
     const bool wasLookedFor = outcome.IsDone() || outcome.Why().Where == Given::Entry;
+    if (outcome.IsDone() && selected == nullptr) side.Date.Typed = false;
     if (wasLookedFor) return Follow(form, side, outcome);
     Tell(TheScreen(), outcome.Why());
+}
+
+/// A day typed after a row was selected is the one that is meant.
+void TakeDate(const Side& side) {
+    side.List.Index = -1;
+    OfferDelete(side);
+}
+
+void DeleteSelected(frmAddWater& form, const Side& side) {
+    if (side.List.Selected() != nullptr) Delete(form, side);
+}
+
+/// Whether the user may leave what they have typed and not accepted; if not, the keyboard is on it.
+bool MayLeave(frmAddWater& form) {
+    return MayLeaveTyped({&form.txtRainDate, &form.txtRainfall, &form.txtIrrAdd, &form.txtIrrigation});
 }
 
 void Load(frmAddWater& form) {
@@ -143,6 +170,13 @@ void UnloadForm(frmAddWater& form) {
     if (restored.IsDone()) ShowChange(form, *restored);
 }
 
+void txtRainDate_Change(frmAddWater& form) { TakeDate(RainOf(form)); }
+void txtIrrAdd_Change(frmAddWater& form) { TakeDate(IrrigationOf(form)); }
+void ListRain_Move(frmAddWater& form) { OfferDelete(RainOf(form)); }
+void ListIrr_Move(frmAddWater& form) { OfferDelete(IrrigationOf(form)); }
+void ListRain_Delete(frmAddWater& form) { DeleteSelected(form, RainOf(form)); }
+void ListIrr_Delete(frmAddWater& form) { DeleteSelected(form, IrrigationOf(form)); }
+
 void txtRainDate_Enter(frmAddWater& form) { Focus(form.txtRainfall); }
 void txtIrrAdd_Enter(frmAddWater& form) { Focus(form.txtIrrigation); }
 void cmdOKRain_Click(frmAddWater& form) { Record(form, RainOf(form)); }
@@ -151,12 +185,14 @@ void cmdDeleteR_Click(frmAddWater& form) { Delete(form, RainOf(form)); }
 void cmdDeleteI_Click(frmAddWater& form) { Delete(form, IrrigationOf(form)); }
 
 void cmdReturn_Click(frmAddWater& form) {
+    if (!MayLeave(form)) return;
     if (!form.Recorded) TheScreen().Tell("No irrigation or rainfall data to update");
     Unload(FormName::frmAddWater);
     ShowFieldData();
 }
 
 void cmdCancel_Click(frmAddWater& form) {
+    if (!MayLeave(form)) return;
     form.Cancelled = true;
     Unload(FormName::frmAddWater);
 }
@@ -166,24 +202,24 @@ void cmdCancel_Click(frmAddWater& form) {
 FormTable TableOf(frmAddWater& form) {
     FormFor table(form, FormName::frmAddWater, "frmAddWater");
     table.Add("lblRainDate", form.lblRainDate);
-    table.Add("txtRainDate", form.txtRainDate).EnterKey(txtRainDate_Enter);
+    table.Add("txtRainDate", form.txtRainDate).Change(txtRainDate_Change).EnterKey(txtRainDate_Enter);
     table.Add("lblRainfall", form.lblRainfall);
     table.Add("txtRainfall", form.txtRainfall).EnterKey(cmdOKRain_Click);
     table.Add("lblRainUnit", form.lblRainUnit);
     table.Add("cmdOKRain", form.cmdOKRain).Click(cmdOKRain_Click);
     table.Add("lblRainList", form.lblRainList);
-    table.Add("ListRain", form.ListRain);
+    table.Add("ListRain", form.ListRain).Move(ListRain_Move).DeleteKey(ListRain_Delete);
     table.Add("cmdDeleteR", form.cmdDeleteR).Click(cmdDeleteR_Click);
     table.Add("lblRainTotal", form.lblRainTotal);
     table.Add("txtRAIN", form.txtRAIN);
     table.Add("lblIrrDate", form.lblIrrDate);
-    table.Add("txtIrrAdd", form.txtIrrAdd).EnterKey(txtIrrAdd_Enter);
+    table.Add("txtIrrAdd", form.txtIrrAdd).Change(txtIrrAdd_Change).EnterKey(txtIrrAdd_Enter);
     table.Add("lblIrrigation", form.lblIrrigation);
     table.Add("txtIrrigation", form.txtIrrigation).EnterKey(cmdOKIrrigation_Click);
     table.Add("lblIrrUnit", form.lblIrrUnit);
     table.Add("cmdOKIrrigation", form.cmdOKIrrigation).Click(cmdOKIrrigation_Click);
     table.Add("lblIrrList", form.lblIrrList);
-    table.Add("ListIrr", form.ListIrr);
+    table.Add("ListIrr", form.ListIrr).Move(ListIrr_Move).DeleteKey(ListIrr_Delete);
     table.Add("cmdDeleteI", form.cmdDeleteI).Click(cmdDeleteI_Click);
     table.Add("lblIrrTotal", form.lblIrrTotal);
     table.Add("txtIRR", form.txtIRR);

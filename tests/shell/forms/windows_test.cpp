@@ -71,6 +71,8 @@ TEST_F(ShellTest, StartsInTheFirstDirectoryThatServesAndEndsInOrder) {
     });
     At(FormName::frmVeraqua).Click("mnuAbout");
     Show(FormName::frmWeather);
+    At(FormName::frmVeraqua).Escape();
+    EXPECT_EQ(User.LastAsked(), "Veraqua: Do you want to leave Veraqua?");
     EXPECT_THROW(At(FormName::frmVeraqua).Close(), ProgramEnded);
     EXPECT_FALSE(IsLoaded(FormName::frmWeather) || IsLoaded(FormName::frmVeraqua));
     EXPECT_EQ(files::DirectoryPath(), "");

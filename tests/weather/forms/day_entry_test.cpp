@@ -34,6 +34,10 @@ TEST_F(DayEntry, AcceptsADayOfThisYearOrTheLastThroughYesterday) {
         EXPECT_EQ(User.LastSaid(), accepted ? "" : "Date Input Error: Select a date BETWEEN 01-01-02 and 07-15-03");
     }
     EXPECT_EQ(Form.EntryDay, Yesterday);  // a refused date leaves the one before it
+    At(FormName::frmWeather).Type("txtDate", "7/1/2003");
+    At(FormName::frmWeather).Press("txtDate", Event::EnterKey).Type("txt_w(0)", "70").Escape();
+    EXPECT_EQ(User.LastAsked(), "Veraqua: \"70\" is typed but not accepted yet.  Do you wish to go back to it?");
+    EXPECT_FALSE(FormOf(FormName::frmWeather).Shown);
 }
 
 TEST_F(DayEntry, KeepsTheUserInABoxUntilItsNumberIsWithinTheLimits) {

@@ -56,7 +56,7 @@ TEST_F(FieldMenuTest, RowsWithAGapAreListedByTheirNumberAndANewFieldTakesTheGap)
     Menu.Click("mnuNew").Click("mnu_MAD");  // a field that is being entered is none yet
     EXPECT_EQ(State.CurrentField, 2);
     EXPECT_EQ(User.Told.back().Title, "Information Message");
-    Menu.Press("comboCrops", Event::EscapeKey);
+    Menu.Escape();
     for (int row = 1; row <= MaxFields; ++row) State.Stat[row].LastDay = Today;
     Menu.Click("mnuNew");
     EXPECT_EQ(User.LastSaid(), "Veraqua: Veraqua keeps at most 100 fields.");
@@ -68,7 +68,7 @@ TEST_F(FieldMenuTest, APickForTheHarvestThatIsGivenUpHarvestsNothing) {
     for (const char* way : {"cmd_Cancel", "Esc", "mnuNew", "mnuSelect"}) {
         Menu.Click("mnuSelect").Click("mnuDelete");
         EXPECT_EQ(User.LastSaid(), "Information Message: Please select a field to delete.");
-        std::string(way) == "Esc" ? Menu.Press("ComboField", Event::EscapeKey) : Menu.Click(way);
+        std::string(way) == "Esc" ? Menu.Escape() : Menu.Click(way);
         Select(0);
         EXPECT_TRUE(User.Asked.empty() && Form.lbl_ID.Visible) << way;
     }

@@ -1,6 +1,7 @@
 #include "workbench/forms/water_events.h"
 
 #include "reports/prediction_text.h"
+#include "tests/support/failing_disks.h"
 #include "tests/workbench/forms/field_menu_fixture.h"
 #include "workbench/forms/cuttings.h"
 
@@ -75,7 +76,7 @@ TEST_F(WaterTest, TheWorkbenchSaysWhenToIrrigateNextAfterEachReturnToIt) {
     EXPECT_EQ(Form.lblNext.Caption, wet);
     Menu.Click("mnu_MAD");
     EXPECT_TRUE(Form.lblNext.Visible);
-    Menu.Press("txtNewMAD", Event::EscapeKey);  // ends the adjustment, not the work on the field
+    Menu.Enter("cmdMADOK").Escape();  // ends the adjustment, not the work on the field
     EXPECT_FALSE(Form.ShapeMAD.Visible);
     EXPECT_EQ(State.CurrentField, 1);
 }
@@ -161,6 +162,50 @@ TEST_F(WaterTest, AFailedRunLeavesListsFileAndRowAsTheyWere) {
     EXPECT_EQ(State.CurrentField, 1);
 }
 
+TEST_F(WaterTest, TheNextEntryIsTypedStraightOnAndTypedValuesAreNotLostInSilence) {
+    Open(AField());
+    Rain("7/3/2003", "1");
+    EXPECT_EQ(User.FocusedControls.back(), "frmAddWater.txtRainDate (selected)");
+    EXPECT_EQ(Water.txtRainfall.Text, "");
+    Entry.Type("txtIrrAdd", "7/4/2003").Type("txtIrrigation", "4");
+    User.Answers = {true};
+    Entry.Click("cmdReturn");
+    EXPECT_EQ(User.LastAsked(), "Veraqua: \"7/4/2003\" is typed but not accepted yet.  Do you wish to go back to it?");
+    EXPECT_EQ(User.FocusedControls.back(), "frmAddWater.txtIrrAdd (selected)");
+    ASSERT_TRUE(FormOf(FormName::frmAddWater).Shown);
+    Entry.Click("cmdOKIrrigation").Escape();
+    EXPECT_EQ(User.Asked.size(), 1U) << "all is accepted";
+    EXPECT_FALSE(FormOf(FormName::frmAddWater).Shown);
+}
+
+TEST_F(WaterTest, DeleteTakesWhatWasTouchedLastAndIsOffWhereThatIsNothing) {
+    Open(AField().Rain(July(3), 25).Rain(July(5), 10).Rain(July(7), 12));
+    EXPECT_FALSE(Water.cmdDeleteR.Enabled);
+    User.OtherAnswer = true;
+    Entry.Press("ListRain", Event::DeleteKey);
+    EXPECT_THAT(User.Asked, IsEmpty()) << "no row is selected";
+    Entry.Arrow("ListRain").Type("txtRainDate", "7/5/2003").Click("cmdDeleteR");
+    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}, EventRecord{July(7), 12}));
+    Entry.Type("txtRainDate", "7/3/2003").Arrow("ListRain", 2).Press("ListRain", Event::DeleteKey);
+    EXPECT_THAT(Stored().Rain, ElementsAre(EventRecord{July(3), 25}));
+    Entry.Type("txtRainDate", "");
+    EXPECT_FALSE(Water.cmdDeleteR.Enabled);
+}
+
+TEST_F(WaterTest, WithoutItsFileTheWorkbenchStaysAndACancelThatCantSaveClosesTheForm) {
+    Open(AField());
+    Rain("7/3/2003", "1");
+    files::FailingDisk full(1, ENOSPC, true);
+    files::InstallDisk(&full);
+    Entry.Click("cmdCancel");
+    files::InstallDisk(nullptr);
+    EXPECT_THAT(User.Failures, testing::SizeIs(1));
+    EXPECT_TRUE(FormOf(FormName::frmField).Shown && !FormOf(FormName::frmAddWater).Loaded);
+    Directory.Delete("field1.dat");
+    Menu.Click("mnuAdd");
+    EXPECT_TRUE(FormOf(FormName::frmField).Shown && !FormOf(FormName::frmAddWater).Loaded);
+}
+
 struct CutsTest : WaterTest {
     At Cuts{FormName::frmCuts};
 
@@ -185,7 +230,8 @@ TEST_F(CutsTest, RecordsCuttingsFromTheOnsetOfGrowthOnAndCancelPutsThemBack) {
     Cut("6/20/2003", "0");  // removes it
     EXPECT_THAT(Stored().Cuttings, ElementsAre(EventRecord{Planting, 1}));
     User.Answers = {true};
-    Cuts.Pick("ListCuts", 0).Click("cmdDelete");
+    EXPECT_EQ(The<frmCuts>().txtCutNumber.Text, "");
+    Cuts.Arrow("ListCuts").Press("ListCuts", Event::DeleteKey);
     EXPECT_EQ(User.LastAsked(), "DELETE Confirmation: Are you sure you wish to delete the CUTTING on: 05-01-03?");
     EXPECT_THAT(Stored().Cuttings, IsEmpty());
     Cut("7/10/2003", "2");
@@ -196,6 +242,9 @@ TEST_F(CutsTest, RecordsCuttingsFromTheOnsetOfGrowthOnAndCancelPutsThemBack) {
 TEST_F(CutsTest, ARefusalPutsTheFocusWhereItIsSetRight) {
     Cut("4/30/2003", "1");
     EXPECT_EQ(User.FocusedControls.back(), "frmCuts.txtCutAdd");
+    EXPECT_FALSE(Cuts.Click("cmdCancel").Held());
+    EXPECT_THAT(User.LastAsked(), HasSubstr("\"04-30-2003\" is typed but not accepted yet."));
+    Menu.Click("mnuCuts");
     Cut("7/1/2003", "2.5");
     EXPECT_EQ(User.FocusedControls.back(), "frmCuts.txtCutNumber");
     EXPECT_THAT(Stored().Cuttings, IsEmpty());
