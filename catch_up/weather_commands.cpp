@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "catch_up/gathered_messages.h"
 #include "core/base/numbers.h"
 #include "core/files/files.h"
 #include "core/state.h"
@@ -231,8 +232,14 @@ CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& dow
 CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download, OpenDays openDays) {
     CommandReport report = FetchWeather(ask, command, download, openDays);
     if (report.Ending != CommandEnding::Done) return report;
-    report.CatchUp =
-        UpdateFieldsForStation(ask, command == WeatherCommand::Append ? "Updating fields" : "Updating fields!");
+    const std::string_view what = command == WeatherCommand::Append ? "Updating fields" : "Updating fields!";
+    if (openDays == OpenDays::Offer) {  // someone sits before a window: ten equal messages are nine too many
+        GatheredMessages gathered(ask);
+        report.CatchUp = UpdateFieldsForStation(gathered, what);
+        gathered.TellAll();
+    } else {
+        report.CatchUp = UpdateFieldsForStation(ask, what);
+    }
     report.FieldsUpdated = FieldsUpdatedText(report.CatchUp->Fields);
     return report;
 }

@@ -92,7 +92,8 @@ std::optional<CommandReport> ImportFetched(Ask& ask, WeatherCommand command, con
 CommandReport FetchWeather(Ask& ask, WeatherCommand command, const Download& download,
                            OpenDays openDays = OpenDays::Tell);
 
-/// The whole menu command: the same, and the catch-up of the station's fields.
+/// The whole menu command: the same, and the catch-up of the station's fields. Where open days are offered, equal
+/// messages of the catch-up are gathered.
 CommandReport BringWeather(Ask& ask, WeatherCommand command, const Download& download,
                            OpenDays openDays = OpenDays::Tell);
 

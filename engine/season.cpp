@@ -155,7 +155,7 @@ class SeasonRunner {
         const SeasonWeather::Found found = weather_.Get(day, place_, today_);
         if (found == SeasonWeather::Found::Damaged) {
             ask_.Tell("Weather data file is missing or corrupt.  Download KESTA data or set with Default Data.",
-                      "Weather File Error");
+                      WeatherDamagedTitle);
             season_.Ending = SeasonEnding::WeatherDamaged;
         } else if (found == SeasonWeather::Found::Missing &&
                    !ask_.YesNo(

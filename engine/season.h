@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/ask.h"
@@ -44,6 +45,9 @@ class SeasonWeather {
     int firstYear_;
     std::vector<WeatherFile> files_;  ///< from `firstYear_` on
 };
+
+/// Title of the message about a day whose record is missing or is that of another day.
+constexpr std::string_view WeatherDamagedTitle = "Weather File Error";
 
 enum class SeasonEnding {
     Finished,        ///< the forecast has come to the crop's end

@@ -1,5 +1,6 @@
 #include "catch_up/weather_commands.h"
 
+#include <algorithm>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -96,6 +97,20 @@ TEST_F(WeatherCommands, SayWhereAnImportHasEndedEarly) {
         EXPECT_EQ(WeatherFile("06", 2003).Days(), 195);
         EXPECT_EQ(User.Told.size(), 1U);
     }
+}
+
+TEST_F(WeatherCommands, GatherEqualMessagesOfTheCatchUp) {
+    AWeatherYear("06", 2003).Through(190).Store();
+    for (const int row : {1, 2}) AField().Days(10).StoreAt(row);
+    const std::string bad = NetworkDays(1, 191) + ANetworkLine(192).Bad() + NetworkDays(193, 195);
+    User.OtherAnswer = false;
+    Bring(Append, bad, OpenDays::Offer);  // 11 July stays open
+    EXPECT_THAT(User.Texts(), ElementsAre(testing::HasSubstr("\nStation 06, day 07-11-03. Fields ")));
+    User.Told.clear();
+    Bring(Append, bad);  // a script hears of each field
+    EXPECT_EQ(std::count_if(User.Told.begin(), User.Told.end(),
+                            [](const auto& told) { return told.Title == "Weather File Error"; }),
+              2);
 }
 
 TEST_F(WeatherCommands, AskAboutDaysThatTheTextLacks) {
