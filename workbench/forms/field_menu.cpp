@@ -268,7 +268,13 @@ FormTable TableOf(frmField& form) {
     AddFieldMenus(table, form);
     AddReportMenus(table, form);
     AddOtherMenus(table, form);
-    table.Load(Load).Appear(ShowFieldNow).Fill(SelectField).Follow(ShowFieldNow).Close(Leave).Escape(Escape).Unload(Unload);
+    table.Load(Load)
+        .Appear(ShowFieldNow)
+        .Fill(SelectField)
+        .Follow(ShowFieldNow)
+        .Close(Leave)
+        .Escape(Escape)
+        .Unload(Unload);
     return table.Done();
 }
 
