@@ -48,6 +48,7 @@ void Make(frmFarm& form, bool sample) {
         Focus(form.txtName);
         return;
     }
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): what it refers to becomes the other directory
     const std::string left = files::DirectoryPath();
     if (MakeFarm(TheScreen(), WithSlash(WithSlash(form.Dir1.Path) + name), sample)) ShowFarm(left);
 }
@@ -61,6 +62,7 @@ void Cmd_Exit_Click(frmFarm&) { Unload(FormName::frmFarm); }
 }  // namespace
 
 void GoToFarm(const std::string& path) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): what it refers to becomes the other directory
     const std::string left = files::DirectoryPath();
     OpenFarm(TheScreen(), path);
     ShowFarm(left);
